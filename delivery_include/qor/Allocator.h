@@ -1,0 +1,51 @@
+// Where framework strings get their storage.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <new>
+
+#include "qor/IAllocator.h"
+#include "qor/objptr_t.h"
+#include "qor/platform/process_heap.h"
+
+namespace qor {
+
+/// Storage for objects of type `T`: from an `IAllocator` of the host when it holds one, from the
+/// process heap otherwise. One pointer wide. What one allocator gave, an equal one takes back.
+template <class T>
+class Allocator {
+public:
+    Allocator() noexcept = default;
+    explicit Allocator(IAllocator* source) : source_(source) {}
+
+    /// @throws std::bad_alloc when there is no memory.
+    T* allocate(std::size_t count) {
+        if (count > std::numeric_limits<std::size_t>::max() / sizeof(T)) {
+            throw std::bad_alloc();
+        }
+        const std::size_t size = count * sizeof(T);
+        void* const memory =
+            source_ ? source_->Alloc(size) : platform::AllocateFromProcessHeap(size);
+        if (memory == nullptr) {
+            throw std::bad_alloc();
+        }
+        return static_cast<T*>(memory);
+    }
+
+    void deallocate(T* memory) {
+        if (source_) {
+            source_->Free(memory);
+        } else {
+            platform::FreeToProcessHeap(memory);
+        }
+    }
+
+    /// The host's allocator, without a new reference; null for the process heap.
+    IAllocator* source() const noexcept { return source_.get(); }
+
+private:
+    objptr_t<IAllocator> source_;
+};
+
+}  // namespace qor

@@ -1,0 +1,38 @@
+// Looking up services of the host.
+#pragma once
+
+#include "qor/IServiceLocator.h"
+#include "qor/objptr_t.h"
+#include "qor/result_codes.h"
+#include "qor/rtl/error_handling/GetInterfaceException.h"
+
+namespace qor {
+
+/// Asks the locator for the service `Interface`.
+/// @param service  receives the service; null on failure.
+/// @return the locator's code.
+template <class Interface>
+result_t GetService(IServiceLocator& locator, objptr_t<Interface>& service) {
+    void* found = nullptr;
+    const result_t code = locator.GetService(Interface::InterfaceId, 0, &found);
+    service = Failed(code) ? objptr_t<Interface>()
+                           : objptr_t<Interface>::Adopt(static_cast<Interface*>(found));
+    return code;
+}
+
+/// The same for callers that cannot do without the service.
+/// @throws GetInterfaceException with the code of a failed lookup.
+template <class Interface>
+objptr_t<Interface> RequireService(IServiceLocator& locator) {
+    // What the exception's text prints as its place.
+    constexpr const char* kSourceFile = "qor/rtl/objclient";
+    constexpr std::int32_t kSourceLine = 113;
+    objptr_t<Interface> service;
+    const result_t code = GetService(locator, service);
+    if (Failed(code)) {
+        throw GetInterfaceException(Interface::InterfaceId, code, kSourceFile, kSourceLine);
+    }
+    return service;
+}
+
+}  // namespace qor

@@ -1,0 +1,17 @@
+// The system's error numbers in Windows terms.
+#pragma once
+
+#include "Platform.h"
+
+namespace Platform::Posix {
+
+inline constexpr ErrorNumber kAccessDenied = 5;
+inline constexpr ErrorNumber kGeneralFailure = 31;
+inline constexpr ErrorNumber kSharingViolation = 32;
+inline constexpr ErrorNumber kInvalidName = 123;
+inline constexpr ErrorNumber kNegativeSeek = 131;
+
+/// @param error  a value of `errno`, not 0.
+ErrorNumber FromErrno(int error) noexcept;
+
+}  // namespace Platform::Posix

@@ -1,0 +1,156 @@
+// Files on POSIX.
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "ErrorNumbers.h"
+#include "Paths.h"
+#include "Platform.h"
+
+namespace Platform {
+
+namespace {
+
+/// Repeats a call that a signal interrupted.
+template <class Call>
+auto Uninterrupted(Call call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
+ErrorNumber LastError() noexcept {
+    return Posix::FromErrno(errno);
+}
+
+/// Owns a descriptor until it is handed out.
+class Descriptor {
+public:
+    explicit Descriptor(int value) noexcept : value_(value) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (value_ != -1) {
+            ::close(value_);
+        }
+    }
+
+    int get() const noexcept { return value_; }
+    int Detach() noexcept {
+        const int value = value_;
+        value_ = -1;
+        return value;
+    }
+
+private:
+    int value_;
+};
+
+/// Shares the file with other readers for as long as it is open. File systems without locks are
+/// used without one.
+ErrorNumber ShareForReading(int descriptor) {
+    if (Uninterrupted([&] { return ::flock(descriptor, LOCK_SH | LOCK_NB); }) == -1 &&
+        errno == EWOULDBLOCK) {
+        return Posix::kSharingViolation;
+    }
+    return kNoError;
+}
+
+}  // namespace
+
+ErrorNumber GetFileAttributes(std::u16string_view path, FileAttributes& attributes) {
+    const auto name = Posix::FileName(path);
+    if (!name) {
+        return Posix::kInvalidName;
+    }
+    struct stat status = {};
+    if (::lstat(name->c_str(), &status) == -1) {
+        return LastError();
+    }
+    attributes.isDirectory = S_ISDIR(status.st_mode);
+    attributes.isLink = S_ISLNK(status.st_mode);
+    return kNoError;
+}
+
+ErrorNumber OpenFile(std::u16string_view path, FileAccess /*access*/, FileSharing /*sharing*/,
+                     FileDisposition /*disposition*/, FileHandle& file) {
+    const auto name = Posix::FileName(path);
+    if (!name) {
+        return Posix::kInvalidName;
+    }
+    // Asked before opening, because to open a device can already set something off; and again
+    // after, because the name may mean another file by then.
+    struct stat status = {};
+    if (::stat(name->c_str(), &status) == -1) {
+        return LastError();
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return Posix::kAccessDenied;
+    }
+    const int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    Descriptor descriptor(Uninterrupted([&] { return ::open(name->c_str(), flags); }));
+    if (descriptor.get() == -1 || ::fstat(descriptor.get(), &status) == -1) {
+        return LastError();
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return Posix::kAccessDenied;
+    }
+    if (const ErrorNumber error = ShareForReading(descriptor.get()); error != kNoError) {
+        return error;
+    }
+    file = descriptor.Detach();
+    return kNoError;
+}
+
+void CloseFile(FileHandle file) noexcept {
+    ::close(static_cast<int>(file));
+}
+
+ErrorNumber ReadFile(FileHandle file, void* destination, std::uint32_t wanted,
+                     std::uint32_t& read) {
+    std::uint32_t total = 0;
+    while (total < wanted) {
+        char* const position = static_cast<char*>(destination) + total;
+        const ssize_t count =
+            Uninterrupted([&] { return ::read(static_cast<int>(file), position, wanted - total); });
+        if (count == -1) {
+            return LastError();
+        }
+        if (count == 0) {
+            break;
+        }
+        total += static_cast<std::uint32_t>(count);
+    }
+    read = total;
+    return kNoError;
+}
+
+ErrorNumber SeekFile(FileHandle file, SeekOrigin origin, std::int64_t offset,
+                     std::int64_t& position) {
+    const int whence = origin == SeekOrigin::Start     ? SEEK_SET
+                       : origin == SeekOrigin::Current ? SEEK_CUR
+                                                       : SEEK_END;
+    const off_t moved = ::lseek(static_cast<int>(file), offset, whence);
+    if (moved == -1) {
+        // The origins are valid, so what is invalid is where the move would have ended.
+        return errno == EINVAL ? Posix::kNegativeSeek : LastError();
+    }
+    position = moved;
+    return kNoError;
+}
+
+ErrorNumber GetFileSize(FileHandle file, std::int64_t& size) {
+    struct stat status = {};
+    if (::fstat(static_cast<int>(file), &status) == -1) {
+        return LastError();
+    }
+    size = status.st_size;
+    return kNoError;
+}
+
+}  // namespace Platform
