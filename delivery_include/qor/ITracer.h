@@ -23,9 +23,8 @@ public:
 
     /// Asks for a record to write into, or enlarges one.
     /// @param level     level of the new record, or `trace_level::Enlarge`.
-    /// @param record    in and out, the record's writable buffer: null going in for a new record;
-    /// to
-    ///                  enlarge, the present buffer, whose text the tracer keeps.
+    /// @param record    in and out, the record's writable buffer. Null going in for a new record;
+    ///                  to enlarge, the present buffer, whose text the tracer keeps.
     /// @param capacity  bytes wanted.
     /// @return `rcOk` with a non-null buffer grants the request; anything else declines it.
     virtual result_t RequestRecord(std::uint32_t level, char** record, std::uint32_t capacity) = 0;

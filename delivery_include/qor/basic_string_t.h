@@ -57,8 +57,7 @@ public:
 
     basic_string_t(const basic_string_t& other) : basic_string_t(other, 0) {}
 
-    basic_string_t(basic_string_t&& other) noexcept : allocator_(other.allocator_) {
-        reset_to_inline();
+    basic_string_t(basic_string_t&& other) noexcept : basic_string_t(other.allocator_) {
         swap_contents(other);
     }
 
@@ -223,12 +222,27 @@ private:
         capacity_ = static_cast<std::uint32_t>(capacity);
     }
 
+    friend struct string_layout;
+
     // The order and the sizes of the fields are the binary contract with the host.
     CharT* data_;
     std::uint32_t size_;
     std::uint32_t capacity_;
     Alloc allocator_;
     CharT inline_[kInlineBytes / sizeof(CharT)];
+};
+
+/// Holds the fields to their places.
+struct string_layout {
+    using string = basic_string_t<char16_t>;
+    static constexpr std::size_t kPointer = sizeof(void*);
+    static_assert(offsetof(string, data_) == 0);
+    static_assert(offsetof(string, size_) == kPointer);
+    static_assert(offsetof(string, capacity_) == kPointer + 4);
+    static_assert(offsetof(string, allocator_) == kPointer + 8);
+    static_assert(offsetof(string, inline_) == 2 * kPointer + 8);
+    static_assert(sizeof(string) == 2 * kPointer + 24);
+    static_assert(sizeof(basic_string_t<char>) == sizeof(string));
 };
 
 }  // namespace qor::types
@@ -240,8 +254,5 @@ using string16_t = types::basic_string_t<char16_t>;
 
 /// Narrow text: ISO names, regions, the texts of the error listener.
 using string8_t = types::basic_string_t<char>;
-
-static_assert(sizeof(void*) != 8 || (sizeof(string16_t) == 40 && sizeof(string8_t) == 40),
-              "the size of framework strings is part of the binary contract");
 
 }  // namespace qor

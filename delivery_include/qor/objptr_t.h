@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace qor {
@@ -24,6 +25,10 @@ public:
 
     objptr_t(const objptr_t& other) : objptr_t(other.object_) {}
     objptr_t(objptr_t&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+
+    /// An object of a class is an object of each of its interfaces.
+    template <class Derived, class = std::enable_if_t<std::is_convertible_v<Derived*, Interface*>>>
+    objptr_t(objptr_t<Derived> other) noexcept : object_(other.Detach()) {}
 
     ~objptr_t() {
         if (object_ != nullptr) {

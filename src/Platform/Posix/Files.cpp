@@ -114,18 +114,16 @@ void CloseFile(FileHandle file) noexcept {
 ErrorNumber ReadFile(FileHandle file, void* destination, std::uint32_t wanted,
                      std::uint32_t& read) {
     std::uint32_t total = 0;
-    while (total < wanted) {
+    ssize_t count = 0;
+    do {  // at least once: an invalid handle is an error even when nothing is wanted
         char* const position = static_cast<char*>(destination) + total;
-        const ssize_t count =
+        count =
             Uninterrupted([&] { return ::read(static_cast<int>(file), position, wanted - total); });
         if (count == -1) {
             return LastError();
         }
-        if (count == 0) {
-            break;
-        }
         total += static_cast<std::uint32_t>(count);
-    }
+    } while (count != 0 && total < wanted);
     read = total;
     return kNoError;
 }
@@ -137,8 +135,9 @@ ErrorNumber SeekFile(FileHandle file, SeekOrigin origin, std::int64_t offset,
                                                        : SEEK_END;
     const off_t moved = ::lseek(static_cast<int>(file), offset, whence);
     if (moved == -1) {
-        // The origins are valid, so what is invalid is where the move would have ended.
-        return errno == EINVAL ? Posix::kNegativeSeek : LastError();
+        // The system has one error for a move that ends before the start and for one that ends
+        // beyond what it can count; only a move backwards can be the former.
+        return errno == EINVAL && offset < 0 ? Posix::kNegativeSeek : LastError();
     }
     position = moved;
     return kNoError;

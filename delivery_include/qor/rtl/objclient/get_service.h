@@ -2,6 +2,7 @@
 #pragma once
 
 #include "qor/IServiceLocator.h"
+#include "qor/ITracer.h"
 #include "qor/objptr_t.h"
 #include "qor/result_codes.h"
 #include "qor/rtl/error_handling/GetInterfaceException.h"
@@ -33,6 +34,19 @@ objptr_t<Interface> RequireService(IServiceLocator& locator) {
         throw GetInterfaceException(Interface::InterfaceId, code, kSourceFile, kSourceLine);
     }
     return service;
+}
+
+/// The host's tracer, for places that report a failure and can do without.
+/// @param locator  may be null.
+inline objptr_t<ITracer> FindTracer(IServiceLocator* locator) noexcept {
+    objptr_t<ITracer> tracer;
+    try {
+        if (locator != nullptr) {
+            GetService(*locator, tracer);
+        }
+    } catch (...) {  // then there is none
+    }
+    return tracer;
 }
 
 }  // namespace qor

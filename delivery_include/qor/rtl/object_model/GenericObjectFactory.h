@@ -20,7 +20,7 @@ public:
                           void** out) override {
         ObjectType* object = nullptr;
         const result_t code = ObjectType::CreateInstance(serviceLocator, &object);
-        if (Failed(code)) {
+        if (object == nullptr) {
             return code;
         }
         const auto local = objptr_t<ObjectType>::Adopt(object);

@@ -38,7 +38,7 @@ public:
             return rcOk;
         } catch (...) {
             return ResultFromCurrentException(
-                FindTracer(*locator).get(),
+                FindTracer(locator).get(),
                 "Exception during object construction: ", trace_level::Error);
         }
     }
@@ -64,15 +64,6 @@ private:
             allocator.Free(memory);
             throw;
         }
-    }
-
-    static objptr_t<ITracer> FindTracer(IServiceLocator& locator) noexcept {
-        objptr_t<ITracer> tracer;
-        try {
-            GetService(locator, tracer);
-        } catch (...) {  // without a tracer the failure is still classified
-        }
-        return tracer;
     }
 };
 

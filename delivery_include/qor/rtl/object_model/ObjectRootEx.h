@@ -59,7 +59,11 @@ public:
 };
 
 /// The root that all component classes of this module derive from.
-using ObjectRoot = ObjectRootEx<
-    CompositeServiceStrategyHelper<AllocatorProvider, TracerProvider, ServiceLocatorProvider>>;
+class ObjectRoot
+    : public ObjectRootEx<CompositeServiceStrategyHelper<AllocatorProvider, TracerProvider,
+                                                         ServiceLocatorProvider>> {
+public:
+    using ObjectRootEx::ObjectRootEx;
+};
 
 }  // namespace qor

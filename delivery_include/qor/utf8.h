@@ -1,0 +1,70 @@
+// UTF-8 as UTF-16.
+#pragma once
+
+#include <string_view>
+
+#include "qor/utf16.h"
+
+namespace qor {
+
+/// Stands for what cannot be decoded.
+inline constexpr char32_t kReplacementCharacter = 0xFFFD;
+
+namespace detail {
+
+/// What a lead byte promises: how many bytes follow, and which values the first of them may take
+/// (the bounds exclude overlong forms, surrogates and what lies beyond U+10FFFF).
+struct Utf8Sequence {
+    unsigned trailing;
+    unsigned char lowest;
+    unsigned char highest;
+};
+
+constexpr Utf8Sequence Utf8SequenceOf(unsigned char lead) noexcept {
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        return {1, 0x80, 0xBF};
+    }
+    if (lead >= 0xE0 && lead <= 0xEF) {
+        return {2, static_cast<unsigned char>(lead == 0xE0 ? 0xA0 : 0x80),
+                static_cast<unsigned char>(lead == 0xED ? 0x9F : 0xBF)};
+    }
+    if (lead >= 0xF0 && lead <= 0xF4) {
+        return {3, static_cast<unsigned char>(lead == 0xF0 ? 0x90 : 0x80),
+                static_cast<unsigned char>(lead == 0xF4 ? 0x8F : 0xBF)};
+    }
+    return {0, 0, 0};  // a trailing byte, or one that UTF-8 never uses
+}
+
+}  // namespace detail
+
+/// Decodes UTF-8; every maximal ill-formed part becomes one U+FFFD.
+/// @param output  an output iterator for `char16_t` with room for a unit per byte; returned moved on.
+template <class OutputIterator>
+OutputIterator DecodeUtf8(std::string_view bytes, OutputIterator output) {
+    const auto* next = reinterpret_cast<const unsigned char*>(bytes.data());
+    const auto* const end = next + bytes.size();
+    while (next != end) {
+        const unsigned char lead = *next++;
+        if (lead < 0x80) {
+            *output++ = lead;
+            continue;
+        }
+        const detail::Utf8Sequence sequence = detail::Utf8SequenceOf(lead);
+        char32_t codePoint = lead & (0x3FU >> sequence.trailing);
+        unsigned left = sequence.trailing;
+        unsigned char lowest = sequence.lowest;
+        unsigned char highest = sequence.highest;
+        while (left != 0 && next != end && *next >= lowest && *next <= highest) {
+            codePoint = codePoint << 6U | (*next++ & 0x3FU);
+            lowest = 0x80;
+            highest = 0xBF;
+            --left;
+        }
+        // What was read of a sequence that broke off is one ill-formed part.
+        const bool complete = sequence.trailing != 0 && left == 0;
+        output = EncodeUtf16(complete ? codePoint : kReplacementCharacter, output);
+    }
+    return output;
+}
+
+}  // namespace qor
