@@ -38,7 +38,7 @@ constexpr Utf8Sequence Utf8SequenceOf(unsigned char lead) noexcept {
 }  // namespace detail
 
 /// Decodes UTF-8; every maximal ill-formed part becomes one U+FFFD.
-/// @param output  an output iterator for `char16_t` with room for a unit per byte; returned moved on.
+/// @param output  output iterator for `char16_t` with room for a unit per byte; returned moved on.
 template <class OutputIterator>
 OutputIterator DecodeUtf8(std::string_view bytes, OutputIterator output) {
     const auto* next = reinterpret_cast<const unsigned char*>(bytes.data());

@@ -1,0 +1,137 @@
+#include "LocalizationManager.h"
+
+#include <boost/current_function.hpp>
+#include <boost/make_shared.hpp>
+#include <utility>
+
+#include "CultureNames.h"
+#include "ErrorListener.h"
+#include "FileResourceProvider.h"
+#include "Localizer.h"
+#include "Messages.h"
+#include "Utf8.h"
+#include "qor/rtl/contracts/checks.h"
+#include "qor/rtl/object_model/LocatorObjectFactory.h"
+
+namespace localization_manager {
+
+using ::LocalizationManager::CheckCall;
+using ::LocalizationManager::Text::ToUtf8;
+
+namespace {
+
+// The lines that messages print.
+constexpr std::int32_t kCreateListenerLine = 466;
+constexpr std::int32_t kInitListenerLine = 470;
+constexpr std::int32_t kCreateLocalizerLine = 563;
+constexpr std::int32_t kLocalizerListenerLine = 578;
+
+}  // namespace
+
+qor::result_t LocalizationManager::Init(const qor::string16_t& root,
+                                        const qor::string16_t& alternative) {
+    return InitEx(root, alternative, nullptr);
+}
+
+qor::result_t LocalizationManager::InitEx(const qor::string16_t& root,
+                                          const qor::string16_t& alternative,
+                                          qor::objptr_t<IErrorListener> errorListener) {
+    if (root.empty()) {
+        return qor::rcInvalidState;
+    }
+    try {
+        SetErrorListener(errorListener, BOOST_CURRENT_FUNCTION);
+        resourceProvider_ = boost::make_shared<::LocalizationManager::File::FileResourceProvider>(
+            std::u16string(root.view()), std::u16string(alternative.view()));
+        return qor::rcOk;
+    } catch (const std::exception& failure) {
+        TraceError(GetTracer(), [&] {
+            return "localization manager error: cannot create file resource provider for root='" +
+                   ToUtf8(root.view()) + "' alternative='" + ToUtf8(alternative.view()) +
+                   "', error: " + WhatOf(failure);
+        });
+        return qor::rcUnspecifiedError;
+    }
+}
+
+qor::result_t LocalizationManager::CreateLocalizer(const qor::string16_t& scope,
+                                                   const Culture& culture,
+                                                   IParamResolver* paramResolver,
+                                                   ILocalizer** localizer) {
+    return CreateLocalizer(scope, culture, resourceProvider_, paramResolver, localizer);
+}
+
+qor::result_t LocalizationManager::CreateLocalizerFromBuffer(const qor::string16_t& /*buffer*/,
+                                                             const Culture& /*culture*/,
+                                                             IParamResolver* /*paramResolver*/,
+                                                             ILocalizer** /*localizer*/) {
+    return qor::rcNotImplemented;
+}
+
+qor::result_t LocalizationManager::CreateBufferLocalizer(const qor::string16_t& /*scopePrefix*/,
+                                                         const qor::string16_t& /*buffer*/,
+                                                         const qor::string16_t& /*commonBuffer*/,
+                                                         const Culture& /*culture*/,
+                                                         IParamResolver* /*paramResolver*/,
+                                                         ILocalizer** /*localizer*/) {
+    return qor::rcNotImplemented;
+}
+
+qor::result_t LocalizationManager::Construct(const LocalizationManagerSettings* settings) {
+    return settings != nullptr ? Init(settings->root, settings->alternative)
+                               : qor::rcInvalidArgument;
+}
+
+qor::result_t LocalizationManager::CreateLocalizer(
+    const qor::string16_t& scope, const Culture& culture,
+    const boost::shared_ptr<ResourceProvider>& resourceProvider, IParamResolver* paramResolver,
+    ILocalizer** localizer) {
+    if (localizer == nullptr) {
+        return qor::rcInvalidArgument;
+    }
+    if (!resourceProvider) {
+        return qor::rcInvalidState;
+    }
+    try {
+        using LocalizerObject = qor::ComponentObject<Localizer>;
+        qor::objptr_t<LocalizerObject> created;
+        CheckCall(LocalizerObject::CreateInstance(GetServiceLocator(), created.Ref()),
+                  "Cannot create Localizer",
+                  {"qor::Object<Localizer>::CreateInstance(GetServiceLocator(), localizer.Ref())",
+                   BOOST_CURRENT_FUNCTION, kServiceSource, kCreateLocalizerLine});
+        const CommonDictionaryCache::Entry common = commonDictionaries_.Get(culture);
+        code_contracts::CheckNotNull(errorListener_, {"errorListener_", BOOST_CURRENT_FUNCTION,
+                                                      kServiceSource, kLocalizerListenerLine});
+        created->Init(resourceProvider, common.dictionary, common.syncObject, scope, culture,
+                      paramResolver, errorListener_);
+        *localizer = created.Detach();
+        return qor::rcOk;
+    } catch (const std::exception& failure) {
+        TraceError(GetTracer(), [&] {
+            return "localization manager error: cannot create Localizer for scope " +
+                   ToUtf8(scope.view()) + " culture " + CultureText(culture) +
+                   ", error: " + WhatOf(failure);
+        });
+        return qor::rcUnspecifiedError;
+    }
+}
+
+void LocalizationManager::SetErrorListener(const qor::objptr_t<IErrorListener>& errorListener,
+                                           const char* function) {
+    if (errorListener) {
+        errorListener_ = errorListener;
+    } else {
+        using ErrorListenerObject = qor::ComponentObject<ErrorListener>;
+        qor::objptr_t<ErrorListenerObject> created;
+        CheckCall(ErrorListenerObject::CreateInstance(GetServiceLocator(), created.Ref()),
+                  "Cannot create internal tracer",
+                  {"qor::Object<ErrorListener>::CreateInstance(GetServiceLocator(), "
+                   "errorListener_.Ref())",
+                   function, kServiceSource, kCreateListenerLine});
+        errorListener_ = std::move(created);
+    }
+    code_contracts::CheckNotNull(errorListener_,
+                                 {"errorListener_", function, kServiceSource, kInitListenerLine});
+}
+
+}  // namespace localization_manager

@@ -1,0 +1,131 @@
+#include "Localizer.h"
+
+#include <boost/current_function.hpp>
+#include <boost/make_shared.hpp>
+
+#include "BinaryIO.h"
+#include "Engine.h"
+#include "HostParamResolver.h"
+#include "Messages.h"
+#include "ResourceProcessingPipeline.h"
+#include "qor/rtl/contracts/checks.h"
+#include "qor/rtl/object_model/LocatorObjectFactory.h"
+
+namespace localization_manager {
+
+using code_contracts::CheckNotNull;
+
+namespace {
+
+// The lines that messages print.
+constexpr std::int32_t kCreateStreamLine = 116;
+constexpr std::int32_t kResourceProviderLine = 208;
+constexpr std::int32_t kCommonResourceDictionaryLine = 209;
+constexpr std::int32_t kSyncObjectLine = 210;
+constexpr std::int32_t kErrorListenerLine = 211;
+constexpr std::int32_t kResolveLine = 265;
+
+}  // namespace
+
+/// The engine's view of the host's parameter resolver.
+class Localizer::ParamResolverWrapper : public EngineParamResolver {
+public:
+    explicit ParamResolverWrapper(localization_manager::IParamResolver* paramResolver)
+        : paramResolver_(paramResolver) {}
+
+    std::u16string Resolve(const std::u16string& name) override {
+        return AskHost(paramResolver_.get(), name, BOOST_CURRENT_FUNCTION, kResolveLine);
+    }
+
+private:
+    qor::objptr_t<localization_manager::IParamResolver> paramResolver_;
+};
+
+void Localizer::Init(
+    const boost::shared_ptr<ResourceProvider>& resourceProvider,
+    const boost::shared_ptr<Dictionary>& commonResourceDictionary,
+    const boost::shared_ptr<qor::CriticalSection>& commonResourceDictionarySyncObject,
+    const qor::string16_t& scope, const Culture& culture, IParamResolver* paramResolver,
+    const qor::objptr_t<IErrorListener>& errorListener) {
+    const char* const function = BOOST_CURRENT_FUNCTION;
+    CheckNotNull(resourceProvider,
+                 {"resourceProvider", function, kServiceSource, kResourceProviderLine});
+    CheckNotNull(commonResourceDictionary, {"commonResourceDictionary", function, kServiceSource,
+                                            kCommonResourceDictionaryLine});
+    CheckNotNull(commonResourceDictionarySyncObject,
+                 {"commonResourceDictionarySyncObject", function, kServiceSource, kSyncObjectLine});
+    CheckNotNull(errorListener, {"errorListener", function, kServiceSource, kErrorListenerLine});
+    LocalizerBase::Init(scope, culture, boost::make_shared<ParamResolverWrapper>(paramResolver),
+                        errorListener);
+    resourceProvider_ = resourceProvider;
+    commonResourceDictionary_ = commonResourceDictionary;
+    commonResourceDictionarySyncObject_ = commonResourceDictionarySyncObject;
+}
+
+qor::result_t Localizer::GetString(const qor::string16_t& key, qor::string16_t& result) {
+    return GetResolvedString(key, result, nullptr);
+}
+
+qor::result_t Localizer::GetStream(const qor::string16_t& key, qor::IIO** stream) {
+    if (stream == nullptr) {
+        return qor::rcInvalidArgument;
+    }
+    try {
+        using BinaryIOObject = qor::ComponentObject<BinaryIO>;
+        qor::objptr_t<BinaryIOObject> created;
+        ::LocalizationManager::CheckCall(
+            BinaryIOObject::CreateInstance(GetServiceLocator(), created.Ref()),
+            "cannot create BinaryIO",
+            {"qor::Object<BinaryIO>::CreateInstance(GetServiceLocator(), stream.Ref())",
+             BOOST_CURRENT_FUNCTION, kServiceSource, kCreateStreamLine});
+        const std::u16string path = FindResource(key);
+        if (path.empty()) {
+            return qor::rcNotFound;
+        }
+        created->Init(path);
+        *stream = created.Detach();
+        return qor::rcOk;
+    } catch (const std::exception& failure) {
+        ReportError("cannot open binary resource file stream", key, failure);
+        return qor::rcUnspecifiedError;
+    }
+}
+
+qor::result_t Localizer::HasResource(const qor::string16_t& key) {
+    return FindResource(key).empty() ? qor::rcUnspecifiedError : qor::rcOk;
+}
+
+qor::result_t Localizer::GetPath(const qor::string16_t& key, qor::string16_t& path) {
+    if (key.empty()) {
+        return qor::rcInvalidArgument;
+    }
+    try {
+        const std::u16string found = FindResource(key);
+        if (found.empty()) {
+            return qor::rcNotFound;
+        }
+        path = found;
+        return qor::rcOk;
+    } catch (const std::exception& failure) {
+        ReportError("cannot get path", key, failure);
+        return qor::rcUnspecifiedError;
+    }
+}
+
+std::unique_ptr<Localizer::StringProvider> Localizer::BuildPipeline(
+    const boost::shared_ptr<EngineParamResolver>& paramResolver) {
+    using engine::Pipeline::ResourceProcessingPipeline;
+    return std::make_unique<ResourceProcessingPipeline>(resourceProvider_, paramResolver,
+                                                        commonResourceDictionary_, culture(),
+                                                        scope(), kCommonResourceName);
+}
+
+qor::CriticalSection& Localizer::BuildLock() {
+    return *commonResourceDictionarySyncObject_;
+}
+
+std::u16string Localizer::FindResource(const qor::string16_t& key) {
+    return resourceProvider_->GetResourcePath(scope(), culture(), std::u16string(key.view()));
+}
+
+}  // namespace localization_manager

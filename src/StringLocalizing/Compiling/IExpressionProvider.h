@@ -1,0 +1,21 @@
+// Where the compiler finds the values that keys stand for.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Operand.h"
+
+namespace LocalizationManager::StringLocalizing::Compiling {
+
+class IExpressionProvider {
+public:
+    /// @param operands  receives the compiled operands of the key, in place of what it held.
+    /// @throws KeyNotFoundException for a key that is unknown.
+    virtual void GetExpression(const std::u16string& key,
+                               std::vector<Model::Operand>& operands) = 0;
+
+    virtual ~IExpressionProvider() = default;
+};
+
+}  // namespace LocalizationManager::StringLocalizing::Compiling

@@ -1,0 +1,34 @@
+// Where localisation sources come from.
+#pragma once
+
+#include <string>
+
+#include "PluralFormRuleId.h"
+#include "ResourceContent.h"
+#include "localization_manager/Culture.h"
+
+namespace LocalizationManager::StringLocalizing::Pipeline {
+
+/// Implementations are immutable and may be asked from several threads.
+class IResourceProvider {
+public:
+    /// @param name  of a scope, or "common".
+    /// @throws std::runtime_error when there is no such source for the culture, or it cannot be
+    /// read.
+    virtual ResourceContent GetResource(const std::u16string& name,
+                                        const localization_manager::Culture& culture) = 0;
+
+    virtual bool HasPluralFormRules(const Model::PluralFormRuleId& id) = 0;
+
+    /// @throws std::runtime_error when `HasPluralFormRules` is false, or the text cannot be read.
+    virtual ResourceContent GetPluralFormRules(const Model::PluralFormRuleId& id) = 0;
+
+    /// The full path of a resource file of a scope; empty when there is none.
+    virtual std::u16string GetResourcePath(const std::u16string& scope,
+                                           const localization_manager::Culture& culture,
+                                           const std::u16string& fileName) = 0;
+
+    virtual ~IResourceProvider() = default;
+};
+
+}  // namespace LocalizationManager::StringLocalizing::Pipeline

@@ -1,0 +1,15 @@
+// Telling a resolve listener.
+#pragma once
+
+#include <string_view>
+
+#include "localization_manager/IResolveListener.h"
+
+namespace LocalizationManager::StringLocalizing::Resolving {
+
+/// Does nothing without a listener, not even converting the texts.
+void Notify(localization_manager::IResolveListener* listener,
+            localization_manager::ResolveKind kind, std::u16string_view source,
+            std::u16string_view name, std::u16string_view value);
+
+}  // namespace LocalizationManager::StringLocalizing::Resolving

@@ -1,0 +1,30 @@
+#include "StringProvider.h"
+
+#include <boost/current_function.hpp>
+#include <utility>
+
+#include "qor/rtl/contracts/checks.h"
+
+namespace LocalizationManager::StringLocalizing::Resolving {
+
+StringProvider::StringProvider(
+    boost::shared_ptr<IKeyResolver> keyResolver,
+    boost::shared_ptr<const Model::ResourceDictionary> resourceDictionary,
+    boost::shared_ptr<IStringProvider> parentStringProvider, const std::u16string& name)
+    : StringProviderBase(std::move(keyResolver), std::move(resourceDictionary), name),
+      parentStringProvider_(std::move(parentStringProvider)) {
+    code_contracts::RequireNotNull(
+        parentStringProvider_,
+        {"parentStringProvider", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
+}
+
+std::u16string StringProvider::GetFallbackString(const std::u16string& key,
+                                                 localization_manager::IResolveListener* listener) {
+    return parentStringProvider_->GetString(key, listener);
+}
+
+bool StringProvider::HasFallbackString(const std::u16string& key) {
+    return parentStringProvider_->HasString(key);
+}
+
+}  // namespace LocalizationManager::StringLocalizing::Resolving

@@ -1,0 +1,24 @@
+// A string provider that asks its parent for what it does not have.
+#pragma once
+
+#include "StringProviderBase.h"
+
+namespace LocalizationManager::StringLocalizing::Resolving {
+
+class StringProvider : public StringProviderBase {
+public:
+    StringProvider(boost::shared_ptr<IKeyResolver> keyResolver,
+                   boost::shared_ptr<const Model::ResourceDictionary> resourceDictionary,
+                   boost::shared_ptr<IStringProvider> parentStringProvider,
+                   const std::u16string& name);
+
+protected:
+    std::u16string GetFallbackString(const std::u16string& key,
+                                     localization_manager::IResolveListener* listener) override;
+    bool HasFallbackString(const std::u16string& key) override;
+
+private:
+    boost::shared_ptr<IStringProvider> parentStringProvider_;
+};
+
+}  // namespace LocalizationManager::StringLocalizing::Resolving
