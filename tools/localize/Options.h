@@ -1,0 +1,25 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace localize {
+
+enum class Command { Get, Has, Path, Cat };
+
+/// All texts are UTF-8.
+struct Options {
+    Command command = Command::Get;
+    std::string module;  // file of the module; empty to look where it belongs
+    std::string root;
+    std::string alternative;
+    std::string culture;
+    std::string scope;
+    std::vector<std::pair<std::string, std::string>> params;
+    bool trace = false;
+    std::vector<std::string> names;  // keys or files, at least one
+};
+
+}  // namespace localize
