@@ -1,0 +1,40 @@
+// Conversions between wide and narrow texts in the encoding of the C runtime's locale.
+#include "qor/rtl/text/Cast.h"
+
+#include <gtest/gtest.h>
+
+#include <typeinfo>
+
+#include "GlobalLocale.h"
+
+namespace {
+
+using namespace std::literals;
+using qor::text::Cast;
+
+TEST(CastTest, AsciiAndZerosPassInEveryLocale) {
+    EXPECT_EQ(Cast<qor::string16_t>("a\0b"sv).view(), u"a\0b"sv);
+    EXPECT_EQ(Cast<qor::string8_t>(u"a\0b"sv).view(), "a\0b"sv);
+    EXPECT_EQ(Cast<qor::string16_t>(u"\xD800"sv).view(), u"\xD800"sv) << "wide to wide copies";
+}
+
+TEST(CastTest, TheLocaleDecidesWhatElsePasses) {
+    const auto narrow = "\xC3\xA4\xF0\x9F\x94\x91"sv;
+    const auto wide = u"\u00E4\U0001F511"sv;
+    EXPECT_THROW(Cast<std::string>(wide), std::bad_cast);
+    const lm_test::GlobalLocale english("en_US.UTF-8");
+    EXPECT_EQ(Cast<std::string>(wide), narrow);
+    EXPECT_EQ(Cast<std::u16string>(narrow), wide);
+}
+
+TEST(CastTest, WhatHasNoFormOnTheOtherSideFails) {
+    const lm_test::GlobalLocale english("en_US.UTF-8");
+    for (const auto wide : {u"a\xD800"sv, u"\xD800z"sv, u"\xDC00\xD800"sv}) {
+        EXPECT_THROW(Cast<std::string>(wide), std::bad_cast);
+    }
+    for (const auto narrow : {"\xC3"sv, "a\xFFz"sv, "\xED\xA0\x80"sv}) {
+        EXPECT_THROW(Cast<std::u16string>(narrow), std::bad_cast);
+    }
+}
+
+}  // namespace
