@@ -16,11 +16,9 @@ public:
     static constexpr std::uint32_t InterfaceId = 0x465EBE3F;
 
     /// @param name     an ISO name ("en", "zh-Hans") or a shorthand ("anz", "br", "hch", "la",
-    /// "sch",
-    ///                 "sea", "tch") in any letter case, optionally followed by "-" and a region,
-    ///                 and that by "-" and a variant; region and variant keep their letter case.
-    /// @param culture  receives the culture, whole or not at all; its strings keep their
-    /// allocators.
+    ///                 "sch", "sea", "tch") in any letter case, optionally followed by "-" and a
+    ///                 region, and that by "-" and a variant, which keep their letter case.
+    /// @param culture  receives the culture, whole or not at all; its strings keep their allocator.
     /// @return `rcOk`, or `rcUnspecifiedError` for a name that is not known.
     virtual qor::result_t GetCultureByIsoName(const qor::string8_t& name, Culture& culture) = 0;
 

@@ -19,8 +19,7 @@ public:
     virtual qor::result_t OnDebug(const qor::string8_t& text) = 0;
     virtual qor::result_t OnInfo(const qor::string8_t& text) = 0;
 
-    /// Every failure of a localizer comes here; the text begins with "localization manager error:
-    /// ".
+    /// Every failure of a localizer comes here. Texts begin with "localization manager error: ".
     virtual qor::result_t OnError(const qor::string8_t& text) = 0;
 
 protected:

@@ -20,13 +20,14 @@ namespace localization_manager {
 ///
 /// Arguments that all creators have:
 ///  - `culture`: whose texts are served; the record is copied.
-///  - `paramResolver`: gives the texts of external parameters; may be null, and then every text
-///  that
-///    asks for a parameter fails. The localizer takes a reference.
+///  - `paramResolver`: gives the texts of external parameters; the localizer takes a reference. May
+///    be null, and then every text that asks for a parameter fails.
 ///  - `localizer`: receives the new localizer with one reference that the caller owns; written on
 ///    `rcOk` only.
-/// Results of all creators: `rcOk`; `rcInvalidArgument` for a null `localizer`; `rcInvalidState`
-/// before initialisation; `rcUnspecifiedError`.
+/// Results of all creators: `rcOk`; `rcInvalidArgument` for a null `localizer`;
+/// `rcUnspecifiedError`. Before initialisation `CreateLocalizer` answers `rcInvalidState`. The creators that take texts
+/// throw then: a contract violation, caught as `std::runtime_error`; they also let `std::bad_alloc`
+/// and `std::length_error` out.
 class ILocalizationManager : public qor::IObject {
 public:
     static constexpr std::uint32_t InterfaceId = 0x9E168F3F;

@@ -14,8 +14,8 @@
 
 namespace localization_manager::host {
 
-/// Answers the request for any other parameter with `rcNotFound`. Threads may set and resolve at
-/// once.
+/// Answers the request for any other parameter with `rcNotFound`. Threads may set and
+/// resolve at once.
 class ParamMap : public HostObject<IParamResolver> {
 public:
     /// Sets or replaces a parameter; name and text are UTF-8.
