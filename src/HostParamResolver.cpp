@@ -11,16 +11,16 @@ namespace localization_manager {
 
 using ::LocalizationManager::Text::ToUtf8;
 
-std::u16string AskHost(IParamResolver* resolver, const std::u16string& name, const char* function,
-                       std::int32_t line) {
-    if (resolver == nullptr) {
+std::u16string HostParamResolver::Ask(const std::u16string& name, const char* function,
+                                      std::int32_t line) const {
+    if (!paramResolver_) {
         throw std::runtime_error("no external resolver was given to resolve param: " +
                                  ToUtf8(name));
     }
     const auto in = qor::text::Cast<qor::string16_t>(name);
     qor::string16_t result;
-    const qor::result_t code = resolver->Resolve(in, result);
-    if (qor::Failed(code)) {
+    const qor::result_t code = paramResolver_->Resolve(in, result);
+    if (qor::Failed(code)) {  // asked here as well, so that the text is made for failures only
         ::LocalizationManager::CheckCall(
             code, "external resolver cannot resolve param: " + ToUtf8(name),
             {"paramResolver_->Resolve(in, result)", function, kServiceSource, line});

@@ -1,20 +1,32 @@
-// Asking the host for the text of a parameter.
+// The engine's view of the host's parameter resolver, for the resolver wrappers of all localizers.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
+#include "Engine.h"
+#include "IParamResolver.h"
 #include "localization_manager/IParamResolver.h"
+#include "qor/objptr_t.h"
 
 namespace localization_manager {
 
-/// The part that the resolver wrappers of all localizers share.
-/// @param resolver  null when the host gave none.
-/// @param function  signature of the wrapper's operation, for the message of a failure.
-/// @param line      line of the call there.
-/// @throws QorCallFailedException when the host answers with a failure code; std::runtime_error
-///         without a resolver; what the host throws.
-std::u16string AskHost(IParamResolver* resolver, const std::u16string& name, const char* function,
-                       std::int32_t line);
+/// A wrapper implements `Resolve` by calling `Ask`; messages print where it does.
+class HostParamResolver : public engine::Resolving::IParamResolver {
+public:
+    /// @param paramResolver  null when the host gave none.
+    explicit HostParamResolver(localization_manager::IParamResolver* paramResolver)
+        : paramResolver_(paramResolver) {}
+
+protected:
+    /// @param function  signature of the calling operation.
+    /// @param line      line of the call.
+    /// @throws QorCallFailedException when the host answers with a failure code; std::runtime_error
+    ///         when there is no resolver; what the host throws.
+    std::u16string Ask(const std::u16string& name, const char* function, std::int32_t line) const;
+
+private:
+    qor::objptr_t<localization_manager::IParamResolver> paramResolver_;
+};
 
 }  // namespace localization_manager

@@ -11,8 +11,7 @@
 
 namespace localization_manager {
 
-/// May be asked from several threads: the provider is built once, under a lock, and read without
-/// one.
+/// May be asked from several threads: it is built once, under a lock, and read without one.
 class LazyStringProvider {
 public:
     using StringProvider = engine::Resolving::IStringProvider;

@@ -4,11 +4,14 @@
 #include <boost/make_shared.hpp>
 #include <utility>
 
+#include "BufferLocalizer.h"
+#include "BufferResourceProvider.h"
 #include "CultureNames.h"
 #include "ErrorListener.h"
 #include "FileResourceProvider.h"
 #include "Localizer.h"
 #include "Messages.h"
+#include "ScopeName.h"
 #include "Utf8.h"
 #include "qor/rtl/contracts/checks.h"
 #include "qor/rtl/object_model/LocatorObjectFactory.h"
@@ -25,6 +28,8 @@ constexpr std::int32_t kCreateListenerLine = 466;
 constexpr std::int32_t kInitListenerLine = 470;
 constexpr std::int32_t kCreateLocalizerLine = 563;
 constexpr std::int32_t kLocalizerListenerLine = 578;
+constexpr std::int32_t kCreateBufferLocalizerLine = 611;
+constexpr std::int32_t kBufferLocalizerListenerLine = 613;
 
 }  // namespace
 
@@ -61,20 +66,25 @@ qor::result_t LocalizationManager::CreateLocalizer(const qor::string16_t& scope,
     return CreateLocalizer(scope, culture, resourceProvider_, paramResolver, localizer);
 }
 
-qor::result_t LocalizationManager::CreateLocalizerFromBuffer(const qor::string16_t& /*buffer*/,
-                                                             const Culture& /*culture*/,
-                                                             IParamResolver* /*paramResolver*/,
-                                                             ILocalizer** /*localizer*/) {
-    return qor::rcNotImplemented;
+qor::result_t LocalizationManager::CreateLocalizerFromBuffer(const qor::string16_t& buffer,
+                                                             const Culture& culture,
+                                                             IParamResolver* paramResolver,
+                                                             ILocalizer** localizer) {
+    const std::u16string scope = GenerateScopeName();
+    return CreateLocalizer(qor::string16_t(scope), culture, WrapBuffer(scope, buffer, {}),
+                           paramResolver, localizer);
 }
 
-qor::result_t LocalizationManager::CreateBufferLocalizer(const qor::string16_t& /*scopePrefix*/,
-                                                         const qor::string16_t& /*buffer*/,
-                                                         const qor::string16_t& /*commonBuffer*/,
-                                                         const Culture& /*culture*/,
-                                                         IParamResolver* /*paramResolver*/,
-                                                         ILocalizer** /*localizer*/) {
-    return qor::rcNotImplemented;
+qor::result_t LocalizationManager::CreateBufferLocalizer(const qor::string16_t& scopePrefix,
+                                                         const qor::string16_t& buffer,
+                                                         const qor::string16_t& commonBuffer,
+                                                         const Culture& culture,
+                                                         IParamResolver* paramResolver,
+                                                         ILocalizer** localizer) {
+    const std::u16string scope = std::u16string(scopePrefix.view()) + GenerateScopeName();
+    return CreateBufferLocalizer(qor::string16_t(scope), culture,
+                                 WrapBuffer(scope, buffer, commonBuffer.view()), paramResolver,
+                                 localizer);
 }
 
 qor::result_t LocalizationManager::Construct(const LocalizationManagerSettings* settings) {
@@ -86,6 +96,39 @@ qor::result_t LocalizationManager::CreateLocalizer(
     const qor::string16_t& scope, const Culture& culture,
     const boost::shared_ptr<ResourceProvider>& resourceProvider, IParamResolver* paramResolver,
     ILocalizer** localizer) {
+    const char* const function = BOOST_CURRENT_FUNCTION;
+    return Create<Localizer>(
+        scope, culture, resourceProvider, localizer,
+        {"qor::Object<Localizer>::CreateInstance(GetServiceLocator(), localizer.Ref())", function,
+         kServiceSource, kCreateLocalizerLine},
+        [&](Localizer& created) {
+            const CommonDictionaryCache::Entry common = commonDictionaries_.Get(culture);
+            CheckErrorListener(function, kLocalizerListenerLine);
+            created.Init(resourceProvider, common.dictionary, common.syncObject, scope, culture,
+                         paramResolver, errorListener_);
+        });
+}
+
+qor::result_t LocalizationManager::CreateBufferLocalizer(
+    const qor::string16_t& scope, const Culture& culture,
+    const boost::shared_ptr<ResourceProvider>& resourceProvider, IParamResolver* paramResolver,
+    ILocalizer** localizer) {
+    const char* const function = BOOST_CURRENT_FUNCTION;
+    return Create<BufferLocalizer>(
+        scope, culture, resourceProvider, localizer,
+        {"qor::Object<BufferLocalizer>::CreateInstance(GetServiceLocator(), localizer.Ref())",
+         function, kServiceSource, kCreateBufferLocalizerLine},
+        [&](BufferLocalizer& created) {
+            CheckErrorListener(function, kBufferLocalizerListenerLine);
+            created.Init(resourceProvider, scope, culture, paramResolver, errorListener_);
+        });
+}
+
+template <class LocalizerClass, class Initialise>
+qor::result_t LocalizationManager::Create(
+    const qor::string16_t& scope, const Culture& culture,
+    const boost::shared_ptr<ResourceProvider>& resourceProvider, ILocalizer** localizer,
+    const code_contracts::ContractLocation& creation, Initialise initialise) {
     if (localizer == nullptr) {
         return qor::rcInvalidArgument;
     }
@@ -93,17 +136,11 @@ qor::result_t LocalizationManager::CreateLocalizer(
         return qor::rcInvalidState;
     }
     try {
-        using LocalizerObject = qor::ComponentObject<Localizer>;
+        using LocalizerObject = qor::ComponentObject<LocalizerClass>;
         qor::objptr_t<LocalizerObject> created;
         CheckCall(LocalizerObject::CreateInstance(GetServiceLocator(), created.Ref()),
-                  "Cannot create Localizer",
-                  {"qor::Object<Localizer>::CreateInstance(GetServiceLocator(), localizer.Ref())",
-                   BOOST_CURRENT_FUNCTION, kServiceSource, kCreateLocalizerLine});
-        const CommonDictionaryCache::Entry common = commonDictionaries_.Get(culture);
-        code_contracts::CheckNotNull(errorListener_, {"errorListener_", BOOST_CURRENT_FUNCTION,
-                                                      kServiceSource, kLocalizerListenerLine});
-        created->Init(resourceProvider, common.dictionary, common.syncObject, scope, culture,
-                      paramResolver, errorListener_);
+                  "Cannot create Localizer", creation);
+        initialise(*created);
         *localizer = created.Detach();
         return qor::rcOk;
     } catch (const std::exception& failure) {
@@ -114,6 +151,13 @@ qor::result_t LocalizationManager::CreateLocalizer(
         });
         return qor::rcUnspecifiedError;
     }
+}
+
+boost::shared_ptr<LocalizationManager::ResourceProvider> LocalizationManager::WrapBuffer(
+    const std::u16string& scope, const qor::string16_t& buffer,
+    std::u16string_view commonBuffer) const {
+    return boost::make_shared<::LocalizationManager::File::BufferResourceProvider>(
+        resourceProvider_, scope, std::u16string(buffer.view()), std::u16string(commonBuffer));
 }
 
 void LocalizationManager::SetErrorListener(const qor::objptr_t<IErrorListener>& errorListener,
@@ -130,8 +174,12 @@ void LocalizationManager::SetErrorListener(const qor::objptr_t<IErrorListener>& 
                    function, kServiceSource, kCreateListenerLine});
         errorListener_ = std::move(created);
     }
+    CheckErrorListener(function, kInitListenerLine);
+}
+
+void LocalizationManager::CheckErrorListener(const char* function, std::int32_t line) const {
     code_contracts::CheckNotNull(errorListener_,
-                                 {"errorListener_", function, kServiceSource, kInitListenerLine});
+                                 {"errorListener_", function, kServiceSource, line});
 }
 
 }  // namespace localization_manager

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <boost/shared_ptr.hpp>
+#include <string>
+#include <string_view>
 
 #include "CommonDictionaryCache.h"
 #include "Engine.h"
@@ -9,6 +11,7 @@
 #include "localization_manager/IConstruct.h"
 #include "localization_manager/ILocalizationManager.h"
 #include "qor/InterfaceList.h"
+#include "qor/rtl/contracts/ContractLocation.h"
 #include "qor/rtl/object_model/ObjectRootEx.h"
 
 namespace localization_manager {
@@ -43,9 +46,27 @@ private:
     qor::result_t CreateLocalizer(const qor::string16_t& scope, const Culture& culture,
                                   const boost::shared_ptr<ResourceProvider>& resourceProvider,
                                   IParamResolver* paramResolver, ILocalizer** localizer);
+    qor::result_t CreateBufferLocalizer(const qor::string16_t& scope, const Culture& culture,
+                                        const boost::shared_ptr<ResourceProvider>& resourceProvider,
+                                        IParamResolver* paramResolver, ILocalizer** localizer);
+
+    /// What both do alike: makes a localizer, has `initialise` make it ready and hands it out.
+    /// @param creation  place of the creation, for the message of its failure.
+    template <class LocalizerClass, class Initialise>
+    qor::result_t Create(const qor::string16_t& scope, const Culture& culture,
+                         const boost::shared_ptr<ResourceProvider>& resourceProvider,
+                         ILocalizer** localizer, const code_contracts::ContractLocation& creation,
+                         Initialise initialise);
+
+    /// Serves a text of the host under a name of its own.
+    boost::shared_ptr<ResourceProvider> WrapBuffer(const std::u16string& scope,
+                                                   const qor::string16_t& buffer,
+                                                   std::u16string_view commonBuffer) const;
 
     /// Takes the host's listener, or makes one of its own.
     void SetErrorListener(const qor::objptr_t<IErrorListener>& errorListener, const char* function);
+
+    void CheckErrorListener(const char* function, std::int32_t line) const;
 
     boost::shared_ptr<ResourceProvider> resourceProvider_;
     CommonDictionaryCache commonDictionaries_;

@@ -27,18 +27,13 @@ constexpr std::int32_t kResolveLine = 265;
 
 }  // namespace
 
-/// The engine's view of the host's parameter resolver.
-class Localizer::ParamResolverWrapper : public EngineParamResolver {
+class Localizer::ParamResolverWrapper : public HostParamResolver {
 public:
-    explicit ParamResolverWrapper(localization_manager::IParamResolver* paramResolver)
-        : paramResolver_(paramResolver) {}
+    using HostParamResolver::HostParamResolver;
 
     std::u16string Resolve(const std::u16string& name) override {
-        return AskHost(paramResolver_.get(), name, BOOST_CURRENT_FUNCTION, kResolveLine);
+        return Ask(name, BOOST_CURRENT_FUNCTION, kResolveLine);
     }
-
-private:
-    qor::objptr_t<localization_manager::IParamResolver> paramResolver_;
 };
 
 void Localizer::Init(
@@ -114,10 +109,9 @@ qor::result_t Localizer::GetPath(const qor::string16_t& key, qor::string16_t& pa
 
 std::unique_ptr<Localizer::StringProvider> Localizer::BuildPipeline(
     const boost::shared_ptr<EngineParamResolver>& paramResolver) {
-    using engine::Pipeline::ResourceProcessingPipeline;
-    return std::make_unique<ResourceProcessingPipeline>(resourceProvider_, paramResolver,
-                                                        commonResourceDictionary_, culture(),
-                                                        scope(), kCommonResourceName);
+    return std::make_unique<engine::Pipeline::ResourceProcessingPipeline>(
+        resourceProvider_, paramResolver, commonResourceDictionary_, culture(), scope(),
+        engine::Pipeline::kCommonResourceName);
 }
 
 qor::CriticalSection& Localizer::BuildLock() {

@@ -21,9 +21,6 @@
 
 namespace localization_manager {
 
-/// The name under which localizers ask for the texts that all scopes share.
-inline constexpr const char16_t* kCommonResourceName = u"common";
-
 class LocalizerBase : public ILocalizer, public qor::ObjectRoot {
 public:
     using Interfaces = qor::InterfaceList<ILocalizer>;

@@ -24,8 +24,7 @@ constexpr std::int32_t kOpenLine = 107;
 constexpr std::int32_t kSizeLine = 110;
 constexpr std::int32_t kReadLine = 121;
 
-/// Decodes, and drops zeros at the end. A text of nothing but zeros is as long as the file has
-/// bytes.
+/// Decodes, and drops zeros at the end. A text of zeros only is as long as the file has bytes.
 std::u16string Decode(std::string_view bytes, std::size_t fileSize) {
     std::u16string text(fileSize, u'\0');
     Platform::DecodeUtf8(bytes, text.data());

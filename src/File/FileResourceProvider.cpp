@@ -112,7 +112,7 @@ ResourceContent FileResourceProvider::GetPluralFormRules(const PluralFormRuleId&
 std::u16string FileResourceProvider::GetResourcePath(const std::u16string& scope,
                                                      const Culture& culture,
                                                      const std::u16string& fileName) {
-    return Find(culture, AppendPathComponent(Platform::NativePath(scope), fileName));
+    return Find(culture, AppendPathComponent(scope, fileName));
 }
 
 qor::string16_t FileResourceProvider::FindPluralFormRulesPath(const PluralFormRuleId& id) {

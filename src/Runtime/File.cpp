@@ -29,8 +29,7 @@ result_t File::Create(std::u16string_view name, std::uint32_t /*access*/,
                       std::uint32_t /*disposition*/, std::uint32_t /*flags*/) {
     static_assert(kInvalidHandle == Platform::kInvalidFileHandle);
     Close();
-    // The only ways to open a file that the system needs, and so the only ones that platforms
-    // supply.
+    // The only way of opening files that the component needs, and so the only one to supply.
     return ResultFromPlatformError(
         Platform::OpenFile(name, Platform::FileAccess::Read, Platform::FileSharing::Read,
                            Platform::FileDisposition::OpenExisting, handle_));

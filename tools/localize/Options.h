@@ -16,7 +16,9 @@ struct Options {
     std::string root;
     std::string alternative;
     std::string culture;
-    std::string scope;
+    std::string scope;         // with a buffer: prefix of the name that reports show; may be empty
+    std::string buffer;        // file with the scope's texts; empty to take the tree's
+    std::string commonBuffer;  // file with the common texts; empty to take the tree's
     std::vector<std::pair<std::string, std::string>> params;
     bool trace = false;
     std::vector<std::string> names;  // keys or files, at least one

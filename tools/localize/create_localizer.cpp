@@ -4,6 +4,7 @@
 
 #include "UsageError.h"
 #include "localization_manager/host/host.h"
+#include "read_text.h"
 
 namespace localize {
 
@@ -30,6 +31,10 @@ qor::objptr_t<host::ParamMap> ParamsOf(const Options& options) {
     return params;
 }
 
+qor::string16_t TextOf(const std::string& file) {
+    return file.empty() ? qor::string16_t() : host::ToString16(ReadText(file));
+}
+
 }  // namespace
 
 qor::objptr_t<lm::ILocalizer> CreateLocalizer(const host::Module& module, const Options& options) {
@@ -41,9 +46,14 @@ qor::objptr_t<lm::ILocalizer> CreateLocalizer(const host::Module& module, const 
         manager->InitEx(host::ToString16(options.root), host::ToString16(options.alternative),
                         host::Make<host::ErrorListener>(report)),
         "cannot use the localisation tree");
+    const auto params = ParamsOf(options);
     qor::objptr_t<lm::ILocalizer> localizer;
-    host::Check(manager->CreateLocalizer(host::ToString16(options.scope), culture,
-                                         ParamsOf(options).get(), localizer.Ref()),
+    host::Check(options.buffer.empty()
+                    ? manager->CreateLocalizer(host::ToString16(options.scope), culture,
+                                               params.get(), localizer.Ref())
+                    : manager->CreateBufferLocalizer(
+                          host::ToString16(options.scope), TextOf(options.buffer),
+                          TextOf(options.commonBuffer), culture, params.get(), localizer.Ref()),
                 "cannot create a localizer");
     return localizer;
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "UsageError.h"
+#include "read_text.h"
 
 namespace localize {
 
@@ -51,6 +52,17 @@ void AddCommands(CLI::App& app, Options& options) {
            "Text of an external parameter; may be repeated")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
+    get.get_option("--scope")->required(false);
+    CLI::Option* const buffer =
+        get.add_option(
+               "--buffer", options.buffer,
+               "Texts of the scope, instead of the tree's; - for standard input. --scope is "
+               "then optional")
+            ->type_name("FILE");
+    get.add_option("--common-buffer", options.commonBuffer,
+                   "Common texts, instead of the tree's; - for standard input")
+        ->type_name("FILE")
+        ->needs(buffer);
     get.add_flag("--trace", options.trace, "Tell on standard error how each text came about");
     get.add_option("KEY", options.names, "Keys of texts")->type_name("")->required();
 
@@ -69,6 +81,16 @@ void AddCommands(CLI::App& app, Options& options) {
         ->expected(1);
 }
 
+/// What the library's rules for single options cannot say.
+void CheckSources(const Options& options) {
+    if (options.scope.empty() && options.buffer.empty()) {
+        throw UsageError("--scope is required without --buffer");
+    }
+    if (options.buffer == kStandardInput && options.commonBuffer == kStandardInput) {
+        throw UsageError("standard input cannot be both --buffer and --common-buffer");
+    }
+}
+
 }  // namespace
 
 std::optional<Options> ParseOptions(int argc, const char* const* argv) {
@@ -85,6 +107,7 @@ std::optional<Options> ParseOptions(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         throw UsageError(error.what());
     }
+    CheckSources(options);
     return options;
 }
 

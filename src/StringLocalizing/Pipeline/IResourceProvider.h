@@ -9,12 +9,14 @@
 
 namespace LocalizationManager::StringLocalizing::Pipeline {
 
+/// The source of the texts that all scopes share.
+inline constexpr const char16_t* kCommonResourceName = u"common";
+
 /// Implementations are immutable and may be asked from several threads.
 class IResourceProvider {
 public:
     /// @param name  of a scope, or "common".
-    /// @throws std::runtime_error when there is no such source for the culture, or it cannot be
-    /// read.
+    /// @throws std::runtime_error when the culture has no such source, or it cannot be read.
     virtual ResourceContent GetResource(const std::u16string& name,
                                         const localization_manager::Culture& culture) = 0;
 

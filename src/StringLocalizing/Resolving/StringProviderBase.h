@@ -1,5 +1,4 @@
-// Serves the texts of one compiled dictionary; what happens on a miss is for the derived class to
-// say.
+// Serves the texts of one compiled dictionary; the derived class says what happens on a miss.
 #pragma once
 
 #include <boost/shared_ptr.hpp>

@@ -1,0 +1,16 @@
+// Reads a text that is not part of a localisation tree.
+#pragma once
+
+#include <string>
+
+namespace localize {
+
+/// The name that stands for standard input.
+inline constexpr const char* kStandardInput = "-";
+
+/// @param file  "-" for standard input.
+/// @return the text in UTF-8, without a byte-order mark.
+/// @throws std::runtime_error when it cannot be read.
+std::string ReadText(const std::string& file);
+
+}  // namespace localize
