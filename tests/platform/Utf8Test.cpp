@@ -1,6 +1,7 @@
 // UTF-8 decoding of the platform layer.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "Platform.h"
@@ -9,34 +10,15 @@ namespace {
 
 using namespace std::literals;
 
-std::u16string Decode(std::string_view bytes) {
-    std::u16string units(bytes.size(), u'?');
-    units.resize(Platform::DecodeUtf8(bytes, units.data()));
-    return units;
-}
-
-TEST(Utf8Test, WellFormedBoundariesDecode) {
-    const struct {
-        std::string_view bytes;
-        std::u16string_view units;
-    } cases[] = {
+TEST(Utf8Test, EveryMaximalIllFormedPartBecomesOneReplacement) {
+    const std::pair<std::string_view, std::u16string_view> cases[] = {
+        // Well-formed, to the boundaries.
         {"", u""},
-        {"a\0b\x7F"sv, u"a\0b\x7F"sv},
-        {"\xC2\x80\xDF\xBF", u"\u0080\u07FF"},
+        {"a\0b\x7F\xC2\x80\xDF\xBF"sv, u"a\0b\x7F\u0080\u07FF"sv},
         {"\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\u0800\uD7FF\uE000\uFFFF"},
         {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\U00010000\U0010FFFF"},
         {"\xEF\xBB\xBFx", u"\uFEFFx"},
-    };
-    for (const auto& expected : cases) {
-        EXPECT_EQ(Decode(expected.bytes), expected.units);
-    }
-}
-
-TEST(Utf8Test, EveryMaximalIllFormedPartBecomesOneReplacement) {
-    const struct {
-        std::string_view bytes;
-        std::u16string_view units;  // "?" stands for the replacement character
-    } cases[] = {
+        // Ill-formed; "?" stands for the replacement character.
         {"\x80z\xBF\xBFz\xFE\xFF", u"?z??z??"},
         {"\xC0\xAFz\xC1\xBFz\xE0\x9F\xBFz\xF0\x8F\xBF\xBF", u"??z??z???z????"},  // overlong
         {"\xED\xA0\x80z\xED\xBF\xBF", u"???z???"},                               // surrogates
@@ -47,12 +29,11 @@ TEST(Utf8Test, EveryMaximalIllFormedPartBecomesOneReplacement) {
         {"\xE2\x82", u"?"},
         {"\xF0\x9F\x94", u"?"},
     };
-    for (const auto& expected : cases) {
-        std::u16string units = Decode(expected.bytes);
-        for (char16_t& unit : units) {
-            unit = unit == u'\uFFFD' ? u'?' : unit;
-        }
-        EXPECT_EQ(units, expected.units) << testing::PrintToString(expected.bytes);
+    for (const auto& [bytes, expected] : cases) {
+        std::u16string units(bytes.size(), u'-');
+        units.resize(Platform::DecodeUtf8(bytes, units.data()));
+        std::replace(units.begin(), units.end(), u'\uFFFD', u'?');
+        EXPECT_EQ(units, expected) << testing::PrintToString(bytes);
     }
 }
 

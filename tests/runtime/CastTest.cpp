@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <typeinfo>
-
 #include "GlobalLocale.h"
 
 namespace {
@@ -12,28 +10,19 @@ namespace {
 using namespace std::literals;
 using qor::text::Cast;
 
-TEST(CastTest, AsciiAndZerosPassInEveryLocale) {
+TEST(CastTest, AsciiPassesInEveryLocaleAndTheLocaleDecidesTheRest) {
+    const auto wide = u"\u00E4\U0001F511"sv;
     EXPECT_EQ(Cast<qor::string16_t>("a\0b"sv).view(), u"a\0b"sv);
     EXPECT_EQ(Cast<qor::string8_t>(u"a\0b"sv).view(), "a\0b"sv);
-    EXPECT_EQ(Cast<qor::string16_t>(u"\xD800"sv).view(), u"\xD800"sv) << "wide to wide copies";
-}
-
-TEST(CastTest, TheLocaleDecidesWhatElsePasses) {
-    const auto narrow = "\xC3\xA4\xF0\x9F\x94\x91"sv;
-    const auto wide = u"\u00E4\U0001F511"sv;
     EXPECT_THROW(Cast<std::string>(wide), std::bad_cast);
     const lm_test::GlobalLocale english("en_US.UTF-8");
-    EXPECT_EQ(Cast<std::string>(wide), narrow);
-    EXPECT_EQ(Cast<std::u16string>(narrow), wide);
-}
-
-TEST(CastTest, WhatHasNoFormOnTheOtherSideFails) {
-    const lm_test::GlobalLocale english("en_US.UTF-8");
-    for (const auto wide : {u"a\xD800"sv, u"\xD800z"sv, u"\xDC00\xD800"sv}) {
-        EXPECT_THROW(Cast<std::string>(wide), std::bad_cast);
+    EXPECT_EQ(Cast<std::string>(wide), "\xC3\xA4\xF0\x9F\x94\x91");
+    EXPECT_EQ(Cast<std::u16string>("\xC3\xA4\xF0\x9F\x94\x91"sv), wide);
+    for (const auto lone : {u"a\xD800"sv, u"\xD800z"sv, u"\xDC00\xD800"sv}) {
+        EXPECT_THROW(Cast<std::string>(lone), std::bad_cast);
     }
-    for (const auto narrow : {"\xC3"sv, "a\xFFz"sv, "\xED\xA0\x80"sv}) {
-        EXPECT_THROW(Cast<std::u16string>(narrow), std::bad_cast);
+    for (const auto malformed : {"\xC3"sv, "a\xFFz"sv, "\xED\xA0\x80"sv}) {
+        EXPECT_THROW(Cast<std::u16string>(malformed), std::bad_cast);
     }
 }
 

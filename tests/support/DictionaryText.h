@@ -13,32 +13,33 @@
 namespace lm_test {
 
 namespace model = LocalizationManager::StringLocalizing::Model;
+using LocalizationManager::Text::ToUtf8;
 
-inline model::ResourceDictionary ParseDictionary(std::u16string_view source) {
+/// Adds the entries of a source to a dictionary.
+inline void ParseInto(model::ResourceDictionary& dictionary, std::u16string_view source) {
     using namespace LocalizationManager::StringLocalizing::Parsing;
-    model::ResourceDictionary dictionary;
     const SourceRange range = MakeSourceRange(source, u"app.lt");
     ParseResourceDictionary(range.first, range.last, dictionary);
+}
+
+inline model::ResourceDictionary ParseDictionary(std::u16string_view source) {
+    model::ResourceDictionary dictionary;
+    ParseInto(dictionary, source);
     return dictionary;
 }
 
 inline std::string PrintValue(const model::Value& value);
 
 struct OperandPrinter : boost::static_visitor<std::string> {
-    std::string operator()(const std::u16string& text) const { return '"' + Utf8(text) + '"'; }
-    std::string operator()(const model::KeyRef& ref) const { return Utf8(ref.key); }
-    std::string operator()(const model::Param& param) const { return '$' + Utf8(param.name); }
+    std::string operator()(const std::u16string& text) const { return '"' + ToUtf8(text) + '"'; }
+    std::string operator()(const model::KeyRef& ref) const { return ToUtf8(ref.key); }
+    std::string operator()(const model::Param& param) const { return '$' + ToUtf8(param.name); }
     std::string operator()(const model::PluralForm& pluralForm) const {
-        std::string text = "{$" + Utf8(pluralForm.paramName);
+        std::string text = "{$" + ToUtf8(pluralForm.paramName);
         for (const model::Value& form : pluralForm.forms) {
             text += (&form == &pluralForm.forms.front() ? ": " : ", ") + PrintValue(form);
         }
         return text + '}';
-    }
-
-private:
-    static std::string Utf8(std::u16string_view text) {
-        return LocalizationManager::Text::ToUtf8(text);
     }
 };
 
@@ -55,7 +56,7 @@ inline std::string PrintValue(const model::Value& value) {
 inline std::string PrintDictionary(const model::ResourceDictionary& dictionary) {
     std::string text;
     for (const auto& [key, value] : dictionary) {
-        text += LocalizationManager::Text::ToUtf8(key) + " = " + PrintValue(value) + ";";
+        text += ToUtf8(key) + " = " + PrintValue(value) + ";";
     }
     return text;
 }

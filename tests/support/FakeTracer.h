@@ -1,10 +1,6 @@
 // A host's tracer that remembers, and refuses or throws when told to.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <map>
-#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -15,22 +11,18 @@
 
 namespace lm_test {
 
+/// Has one record open at a time.
 class FakeTracer : public localization_manager::host::HostObject<qor::ITracer> {
 public:
-    using Pairs = std::vector<std::pair<std::uint32_t, std::uint32_t>>;
-    using Records = std::vector<std::pair<std::uint32_t, std::string>>;
-
-    /// Levels that are declined, and with what: the code, and what the record is set to.
-    std::map<std::uint32_t, std::pair<qor::result_t, char*>> declinedLevels;
+    qor::result_t answer = qor::rcOk;  // to requests
+    bool givesNull = false;            // whatever the answer
     bool refusesEnlargement = false;
     bool throws = false;
-
-    ~FakeTracer() override { EXPECT_TRUE(open_.empty()) << "records requested but never written"; }
+    std::string requests;  // "level:capacity " of each
 
     qor::result_t RequestRecord(std::uint32_t level, char** record,
                                 std::uint32_t capacity) override {
-        const std::lock_guard<std::mutex> lock(mutex_);
-        requests_.emplace_back(level, capacity);
+        requests += std::to_string(level) + ':' + std::to_string(capacity) + ' ';
         if (throws) {
             throw std::runtime_error("tracer failed");
         }
@@ -38,44 +30,24 @@ public:
         if (enlarges && refusesEnlargement) {
             return qor::rcOutOfMemory;
         }
-        if (const auto declined = declinedLevels.find(level); declined != declinedLevels.end()) {
-            *record = declined->second.second;
-            return declined->second.first;
-        }
-        Buffer buffer = enlarges ? open_.at(*record) : Buffer{level, {}};
-        if (enlarges) {
-            open_.erase(*record);
-        }
-        buffer.bytes.resize(capacity);
-        buffer.bytes.shrink_to_fit();
-        *record = buffer.bytes.data();
-        open_.emplace(*record, std::move(buffer));
-        return qor::rcOk;
+        level_ = enlarges ? level_ : level;
+        buffer_ = std::vector<char>(capacity);
+        *record = givesNull ? nullptr : buffer_.data();
+        return answer;
     }
 
     qor::result_t WriteRecord(char* buffer, std::uint32_t length) override {
-        const std::lock_guard<std::mutex> lock(mutex_);
-        records_.emplace_back(open_.at(buffer).level, std::string(buffer, length));
-        open_.erase(buffer);
+        records_ += std::to_string(level_) + ' ' + std::string(buffer, length) + '\n';
         return qor::rcOk;
     }
 
-    /// The written records since the last call: level and text.
-    Records TakeRecords() { return std::exchange(records_, {}); }
-
-    /// The requests since the last call: level and capacity.
-    Pairs TakeRequests() { return std::exchange(requests_, {}); }
+    /// "level text\n" of the records since the last call.
+    std::string TakeRecords() { return std::exchange(records_, ""); }
 
 private:
-    struct Buffer {
-        std::uint32_t level;
-        std::vector<char> bytes;
-    };
-
-    std::mutex mutex_;
-    std::map<char*, Buffer> open_;
-    Records records_;
-    Pairs requests_;
+    std::uint32_t level_ = 0;
+    std::vector<char> buffer_;
+    std::string records_;
 };
 
 }  // namespace lm_test

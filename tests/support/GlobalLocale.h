@@ -2,7 +2,6 @@
 #pragma once
 
 #include <locale>
-#include <string>
 
 namespace lm_test {
 
@@ -11,14 +10,13 @@ namespace lm_test {
 class GlobalLocale {
 public:
     /// @throws std::runtime_error when the machine does not have the locale.
-    explicit GlobalLocale(const std::string& name)
-        : before_(std::locale::global(std::locale(name))) {}
+    explicit GlobalLocale(const char* name) : before_(std::locale::global(std::locale(name))) {}
     GlobalLocale(const GlobalLocale&) = delete;
     GlobalLocale& operator=(const GlobalLocale&) = delete;
     ~GlobalLocale() { std::locale::global(before_); }
 
 private:
-    std::locale before_;
+    const std::locale before_;
 };
 
 }  // namespace lm_test

@@ -1,7 +1,11 @@
 // A directory of files for one test.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <string_view>
 
@@ -10,21 +14,32 @@ namespace lm_test {
 /// Made empty in the system's temporary directory, removed with all that is in it.
 class TempTree {
 public:
-    TempTree();
+    TempTree() {
+        std::string name = std::filesystem::temp_directory_path() / "lm_test_XXXXXX";
+        EXPECT_NE(::mkdtemp(name.data()), nullptr);
+        root_ = name;
+    }
     TempTree(const TempTree&) = delete;
     TempTree& operator=(const TempTree&) = delete;
-    ~TempTree();
+    ~TempTree() { std::filesystem::remove_all(root_); }
 
     /// Writes a file, and the directories above it.
     /// @param name  path below the root.
     /// @return the file's full path.
-    std::filesystem::path Write(const std::string& name, std::string_view bytes) const;
+    std::filesystem::path Write(const std::string& name, std::string_view bytes) const {
+        std::filesystem::path path = root_ / name;
+        std::filesystem::create_directories(path.parent_path());
+        EXPECT_TRUE((std::ofstream(path, std::ios::binary) << bytes).flush()) << path;
+        return path;
+    }
 
     const std::filesystem::path& Root() const noexcept { return root_; }
 
     /// The full path of something below the root, as the engine takes it; of the root itself
     /// without a name.
-    std::u16string Path(const std::string& name = "") const;
+    std::u16string Path(const std::string& name = "") const {
+        return (name.empty() ? root_ : root_ / name).u16string();
+    }
 
 private:
     std::filesystem::path root_;

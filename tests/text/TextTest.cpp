@@ -1,6 +1,7 @@
-// Texts of the engine: letter case and UTF-8.
+// Letter case, UTF-8 of messages, and the names of cultures.
 #include <gtest/gtest.h>
 
+#include "CultureNames.h"
 #include "GlobalLocale.h"
 #include "LowerCase.h"
 #include "Utf8.h"
@@ -10,16 +11,12 @@ namespace {
 using namespace std::literals;
 using namespace LocalizationManager::Text;
 
-TEST(LowerCaseTest, FollowsTheGlobalLocaleUnitByUnit) {
+TEST(TextTest, KeysAreLowerCasedUnitByUnitAsTheGlobalLocaleSays) {
     const struct {
-        std::u16string key;
-        std::u16string classic;
-        std::u16string english;
+        std::u16string key, classic, english;
     } cases[] = {
-        {u"", u"", u""},
         {u"Key_42.A\0Z"s, u"key_42.a\0z"s, u"key_42.a\0z"s},
-        {u"\u00C4\u041A\u041B\u042E\u0427", u"\u00C4\u041A\u041B\u042E\u0427",
-         u"\u00E4\u043A\u043B\u044E\u0447"},
+        {u"\u00C4\u041A", u"\u00C4\u041A", u"\u00E4\u043A"},
         {u"\u0130", u"\u0130", u"i"},
         {u"\U00010400", u"\U00010400", u"\U00010400"},  // a capital letter, but of two units
         {u"A\xD800Z", u"a\xD800z", u"a\xD800z"},
@@ -31,15 +28,18 @@ TEST(LowerCaseTest, FollowsTheGlobalLocaleUnitByUnit) {
     }
 }
 
-TEST(Utf8TextTest, EveryUnitIsEncodedByItself) {
+TEST(TextTest, EveryUnitOfAMessageIsEncodedByItself) {
     EXPECT_EQ(ToUtf8(u"a\0\u007F\u0080\u07FF\u0800\uFFFF"sv),
               "a\0\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF"sv);
-    EXPECT_EQ(ToUtf8(u"\U0001F511"), "\xED\xA0\xBD\xED\xB4\x91");
-    EXPECT_EQ(ToUtf8(u"\xDC00\xD800"), "\xED\xB0\x80\xED\xA0\x80");
+    EXPECT_EQ(ToUtf8(u"\U0001F511\xD800"), "\xED\xA0\xBD\xED\xB4\x91\xED\xA0\x80");
+    EXPECT_EQ(FromUtf8("\xF0\x9F\x94\x91 \xE2\x82 \0x"sv), u"\U0001F511 \uFFFD \0x"sv);
 }
 
-TEST(Utf8TextTest, DecodesPairsAndReplacesWhatIsIllFormed) {
-    EXPECT_EQ(FromUtf8("\xF0\x9F\x94\x91 \xE2\x82 \0x"sv), u"\U0001F511 \uFFFD \0x"sv);
+TEST(TextTest, AnUnsupportedLanguageIsNamedWithoutDigitGrouping) {
+    using namespace localization_manager;
+    const lm_test::GlobalLocale english("en_US.UTF-8");
+    EXPECT_EQ(CultureText({Language{1234567}, "br", "x"}), "Unsupported language 1234567-br-x");
+    EXPECT_EQ(CultureText({Language{38}, "", ""}), "Unsupported language 38-");
 }
 
 }  // namespace
