@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <boost/current_function.hpp>
+#include <boost/variant/apply_visitor.hpp>
 #include <boost/variant/get.hpp>
+#include <boost/variant/static_visitor.hpp>
 #include <utility>
 
 #include "CyclicReferenceException.h"
+#include "ExpansionLimitException.h"
 #include "qor/rtl/contracts/checks.h"
 
 namespace LocalizationManager::StringLocalizing::Compiling {
@@ -34,22 +37,23 @@ bool NeedsCompiling(const Operands& operands) {
            std::adjacent_find(operands.begin(), operands.end(), areTexts) != operands.end();
 }
 
-/// Appends an operand that is no reference; a text joins a text before it.
-void Append(Operands& output, const Operand& operand) {
-    const auto* const text = boost::get<std::u16string>(&operand);
-    auto* const last = output.empty() ? nullptr : boost::get<std::u16string>(&output.back());
-    if (text != nullptr && last != nullptr) {
-        last->append(*text);
-    } else {
-        output.push_back(operand);
-    }
-}
+/// What an operand counts towards the limits of expansion: its units, and one for itself.
+class ExpandedSize : public boost::static_visitor<std::size_t> {
+public:
+    std::size_t operator()(const std::u16string& text) const { return 1 + text.size(); }
+    std::size_t operator()(const KeyRef& ref) const { return 1 + ref.key.size(); }
+    std::size_t operator()(const Model::Param& param) const { return 1 + param.name.size(); }
 
-void AppendAll(Operands& output, const Operands& operands) {
-    for (const Operand& operand : operands) {
-        Append(output, operand);
+    std::size_t operator()(const Model::PluralForm& pluralForm) const {
+        std::size_t size = 1 + pluralForm.paramName.size();
+        for (const Model::Value& form : pluralForm.forms) {
+            for (const Operand& operand : form.operands) {
+                size += boost::apply_visitor(*this, operand);
+            }
+        }
+        return size;
     }
-}
+};
 
 }  // namespace
 
@@ -63,6 +67,7 @@ void ResourceCompiler::Compile(boost::shared_ptr<Model::ResourceDictionary> reso
     code_contracts::RequireNotNull(
         resourceDictionary, {"resourceDictionary", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
     dictionary_ = std::move(resourceDictionary);
+    expandedSize_ = 0;
     for (Entry& entry : *dictionary_) {
         CompileKey(entry);
     }
@@ -108,7 +113,7 @@ void ResourceCompiler::Step() {
     } else if (const auto* ref = boost::get<KeyRef>(&operands[visit.nextOperand])) {
         AppendReferenced(ref->key);
     } else {
-        Append(visit.output, operands[visit.nextOperand++]);
+        Append(operands[visit.nextOperand++]);
     }
 }
 
@@ -127,15 +132,43 @@ void ResourceCompiler::AppendReferenced(const std::u16string& key) {
     if (found == dictionary_->end()) {
         Operands inherited;
         parent_->GetExpression(key, inherited);
-        AppendAll(visit.output, inherited);
+        AppendAll(inherited);
         ++visit.nextOperand;
     } else if (visiting_.count(&*found) != 0) {
         ThrowCycle(key);
     } else if (NeedsCompiling(found->second.operands)) {
         Begin(*found);
     } else {
-        AppendAll(visit.output, found->second.operands);
+        AppendAll(found->second.operands);
         ++visit.nextOperand;
+    }
+}
+
+/// Appends an operand that is no reference to the innermost entry; a text joins a text before it.
+void ResourceCompiler::Append(const Operand& operand) {
+    Visit& visit = visits_.back();
+    const std::size_t size = boost::apply_visitor(ExpandedSize(), operand);
+    visit.outputSize += size;
+    expandedSize_ += size;
+    if (visit.outputSize > kMaxExpandedValue) {
+        throw ExpansionLimitException(visit.entry->first, kMaxExpandedValue);
+    }
+    if (expandedSize_ > kMaxExpandedDictionary) {
+        throw ExpansionLimitException(visit.entry->first, kMaxExpandedDictionary);
+    }
+    const auto* const text = boost::get<std::u16string>(&operand);
+    auto* const last =
+        visit.output.empty() ? nullptr : boost::get<std::u16string>(&visit.output.back());
+    if (text != nullptr && last != nullptr) {
+        last->append(*text);
+    } else {
+        visit.output.push_back(operand);
+    }
+}
+
+void ResourceCompiler::AppendAll(const Operands& operands) {
+    for (const Operand& operand : operands) {
+        Append(operand);
     }
 }
 

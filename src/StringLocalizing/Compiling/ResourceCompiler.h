@@ -20,8 +20,8 @@ public:
 
     /// Rewrites the values of the dictionary in place. A value that is compiled already is not
     /// written to, so that to compile a dictionary again only reads it.
-    /// @throws CyclicReferenceException; KeyNotFoundException; what the parent throws. Values that
-    ///         were not finished keep their operands.
+    /// @throws CyclicReferenceException; KeyNotFoundException; ExpansionLimitException; what the
+    ///         parent throws. Values that were not finished keep their operands.
     void Compile(boost::shared_ptr<Model::ResourceDictionary> resourceDictionary);
 
     /// For a child compiler, once `Compile` has run.
@@ -35,6 +35,7 @@ private:
         Entry* entry;
         std::size_t nextOperand = 0;
         std::vector<Model::Operand> output{};
+        std::size_t outputSize = 0;
     };
 
     void CompileKey(Entry& entry);
@@ -42,6 +43,8 @@ private:
     void Step();
     void Finish();
     void AppendReferenced(const std::u16string& key);
+    void Append(const Model::Operand& operand);
+    void AppendAll(const std::vector<Model::Operand>& operands);
     [[noreturn]] void ThrowCycle(const std::u16string& key) const;
 
     boost::shared_ptr<IExpressionProvider> parent_;
@@ -49,6 +52,7 @@ private:
     // A stack of its own, not the thread's: chains of references may be as long as the dictionary.
     std::vector<Visit> visits_;
     std::unordered_set<const Entry*> visiting_;
+    std::size_t expandedSize_ = 0;  // of all values that were rewritten
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Compiling

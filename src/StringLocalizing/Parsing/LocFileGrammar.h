@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "LocFileActions.h"
+#include "NestingGuard.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
@@ -42,6 +43,7 @@ private:
     Rule<Model::KeyRef()> keyRef_{"keyRef_"s};
     Rule<Model::PluralForm()> pluralForm_{"pluralForm_"s};
     boost::spirit::qi::symbols<char16_t, char16_t> escapes_;
+    NestingGuard nesting_{"plural forms"};
 };
 
 inline LocFileGrammar::LocFileGrammar() : base_type(resourceDictionary_, "resourceDictionary_") {
@@ -83,15 +85,17 @@ inline void LocFileGrammar::DefineOperands() {
     operand_ = string_[moveTo(_val, _1)] | keyRef_[moveTo(_val, _1)] | param_[moveTo(_val, _1)] |
                pluralForm_[moveTo(_val, _1)];
     string_ =
-        L'\'' >> *(raw[+(char_ - (lit(L'\'') | L'\\'))][append(_val, _1)] |
-                   escapes_[appendUnit(_val, _1)] | lit(L'\\')[appendUnit(_val, u'\\')]) > L'\'';
+        (L'\'' >> *(raw[+(char_ - (lit(L'\'') | L'\\'))][append(_val, _1)] |
+                    escapes_[appendUnit(_val, _1)] | lit(L'\\')[appendUnit(_val, u'\\')])) > L'\'';
     keyRef_ = key_[bind(&SetKeyRef, _val, _1)];
     paramName_ = L'$' > key_;
     param_ = skip(space)[paramName_[setName(_val, _1)] >> !lit(L':')];
     // All recursion of the grammar goes through this rule.
-    pluralForm_ = skip(space)[lit(L'{') > paramName_[setName(_val, _1)] > L':' >
-                              expression_[bind(&AddForm, _val, _1)] >
-                              repeat(0, 5)[L',' > expression_[bind(&AddForm, _val, _1)]] > L'}'];
+    pluralForm_ =
+        skip(space)[raw[lit(L'{')][bind(&NestingGuard::Enter, &nesting_, _1)] >
+                    paramName_[setName(_val, _1)] > L':' > expression_[bind(&AddForm, _val, _1)] >
+                    repeat(0, 5)[L',' > expression_[bind(&AddForm, _val, _1)]] >
+                    lit(L'}')[bind(&NestingGuard::Leave, &nesting_)]];
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

@@ -8,7 +8,7 @@ namespace LocalizationManager::StringLocalizing::Parsing {
 void ParseResourceDictionary(const SourceIterator& first, const SourceIterator& last,
                              Model::ResourceDictionary& dictionary) {
     try {
-        const LocFileGrammar grammar;
+        LocFileGrammar grammar;  // counts while it parses
         const char16_t* current = first.base();
         boost::spirit::qi::parse(current, last.base(), grammar, dictionary);
     } catch (...) {

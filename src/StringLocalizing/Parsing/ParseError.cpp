@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "DuplicateKeyException.h"
+#include "NestingGuard.h"
 #include "ParsingException.h"
 #include "Utf8.h"
 
@@ -31,17 +32,19 @@ SourceIterator Locate(SourceIterator position, const char16_t* place) {
     return position;
 }
 
-std::u16string FormatExpectation(const SourceIterator& first, const ExpectationFailure& failure) {
-    std::ostringstream printed;
-    printed << failure.what_;
-    const std::string description = printed.str();
-
-    std::u16string message = FormatParsePosition(Locate(first, failure.first));
-    message.append(u" expecting ").append(Text::FromUtf8(description)).append(u" here");
-    if (description == kKeyTermination) {
+std::u16string FormatExpectation(const SourceIterator& position, const std::string& expected) {
+    std::u16string message = FormatParsePosition(position);
+    message.append(u" expecting ").append(Text::FromUtf8(expected)).append(u" here");
+    if (expected == kKeyTermination) {
         message.append(u" or one of previous lines miss termination '(qoute)");
     }
     return message;
+}
+
+std::string ToText(const boost::spirit::info& description) {
+    std::ostringstream printed;
+    printed << description;
+    return printed.str();
 }
 
 }  // namespace
@@ -63,7 +66,12 @@ void TranslateParseError(const SourceIterator& first) {
     } catch (const DuplicateKeyException& duplicate) {
         throw ParsingException(Text::FromUtf8(duplicate.what()));
     } catch (const ExpectationFailure& failure) {
-        throw ParsingException(FormatExpectation(first, failure));
+        throw ParsingException(
+            FormatExpectation(Locate(first, failure.first), ToText(failure.what_)));
+    } catch (const NestingLimitExceeded& limit) {
+        throw ParsingException(
+            FormatExpectation(Locate(first, limit.place),
+                              "at most " + std::to_string(kMaxNesting) + " nested " + limit.what));
     }
 }
 

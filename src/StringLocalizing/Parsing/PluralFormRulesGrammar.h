@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 
+#include "NestingGuard.h"
 #include "PluralFormRulesActions.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
@@ -51,6 +52,7 @@ private:
     Rule<Operator()> greaterOrEqual_{"greaterOrEqual_"s};
     Rule<> andToken_;
     Rule<> orToken_;
+    NestingGuard nesting_{"parentheses"};
 };
 
 template <typename Iterator>
@@ -74,7 +76,10 @@ void PluralFormRulesGrammar<Iterator>::DefineConditions() {
     andExpression_ =
         skip(space)[(primary_ > *(andToken_ > primary_))[bind(&MakeAnd, _val, _1, _2)]];
     // All recursion of the grammar goes through this rule.
-    primary_ = compareExpression_ | (lit(L'(') > orExpression_ > L')');
+    // With an action inside, the condition is passed up by `%=` only.
+    primary_ %=
+        compareExpression_ | (omit[raw[lit(L'(')][bind(&NestingGuard::Enter, &nesting_, _1)]] >
+                              orExpression_ > lit(L')')[bind(&NestingGuard::Leave, &nesting_)]);
     andToken_ = lit(L"&&");
     orToken_ = lit(L"||");
 }

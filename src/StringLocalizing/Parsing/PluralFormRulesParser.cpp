@@ -8,7 +8,7 @@ namespace LocalizationManager::StringLocalizing::Parsing {
 void ParsePluralFormRules(const SourceIterator& first, const SourceIterator& last,
                           Model::PluralFormRule& rule) {
     try {
-        const PluralFormRulesGrammar<const char16_t*> grammar;
+        PluralFormRulesGrammar<const char16_t*> grammar;  // counts while it parses
         const char16_t* current = first.base();
         boost::spirit::qi::parse(current, last.base(), grammar, rule);
     } catch (...) {
