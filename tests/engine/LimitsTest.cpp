@@ -22,9 +22,9 @@ using namespace LocalizationManager::StringLocalizing;
 using Parsing::kMaxNesting;
 
 #ifdef NDEBUG
-constexpr std::size_t kStackSize = 256 * 1024;
+constexpr std::size_t kStackSize = std::size_t{256} * 1024;
 #else  // frames of sanitized builds are several times as large
-constexpr std::size_t kStackSize = 8 * 1024 * 1024;
+constexpr std::size_t kStackSize = std::size_t{8} * 1024 * 1024;
 #endif
 
 struct AlwaysOne : Resolving::IParamResolver {
