@@ -28,26 +28,37 @@ inline model::ResourceDictionary ParseDictionary(std::u16string_view source) {
     return dictionary;
 }
 
-inline std::string PrintValue(const model::Value& value);
+inline std::string Quote(const std::u16string& text) {
+    return '"' + ToUtf8(text) + '"';
+}
+
+/// @param printText  how texts are written.
+inline std::string PrintValue(const model::Value& value,
+                              std::string (*printText)(const std::u16string&) = Quote);
 
 struct OperandPrinter : boost::static_visitor<std::string> {
-    std::string operator()(const std::u16string& text) const { return '"' + ToUtf8(text) + '"'; }
+    std::string (*printText)(const std::u16string&);
+
+    std::string operator()(const std::u16string& text) const { return printText(text); }
     std::string operator()(const model::KeyRef& ref) const { return ToUtf8(ref.key); }
     std::string operator()(const model::Param& param) const { return '$' + ToUtf8(param.name); }
     std::string operator()(const model::PluralForm& pluralForm) const {
         std::string text = "{$" + ToUtf8(pluralForm.paramName);
         for (const model::Value& form : pluralForm.forms) {
-            text += (&form == &pluralForm.forms.front() ? ": " : ", ") + PrintValue(form);
+            text +=
+                (&form == &pluralForm.forms.front() ? ": " : ", ") + PrintValue(form, printText);
         }
         return text + '}';
     }
 };
 
 /// "text" + key + $param + {$param: value, value}
-inline std::string PrintValue(const model::Value& value) {
+inline std::string PrintValue(const model::Value& value,
+                              std::string (*printText)(const std::u16string&)) {
+    const OperandPrinter printer{{}, printText};
     std::string text;
     for (const model::Operand& operand : value.operands) {
-        text += (text.empty() ? "" : " + ") + boost::apply_visitor(OperandPrinter(), operand);
+        text += (text.empty() ? "" : " + ") + boost::apply_visitor(printer, operand);
     }
     return text;
 }
