@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "CultureNames.h"
+#include "Messages.h"
+#include "Utf8.h"
 
 namespace localization_manager {
 

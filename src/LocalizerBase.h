@@ -10,8 +10,6 @@
 #include "IParamResolver.h"
 #include "IStringProvider.h"
 #include "LazyStringProvider.h"
-#include "Messages.h"
-#include "Utf8.h"
 #include "localization_manager/Culture.h"
 #include "localization_manager/IErrorListener.h"
 #include "localization_manager/ILocalizer.h"
