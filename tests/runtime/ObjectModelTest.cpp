@@ -40,6 +40,9 @@ TEST(ObjectModelTest, AFailedConstructionIsTracedAndLeavesNothingBehind) {
         {2, notFound, rcNotFound,
          prefix + "GetInterfaceException - 0x8000004c (Not found): iid:9cca5603. At "
                   "qor/rtl/objclient(113) \n"},
+        {2, givesNull, rcUnexpected,
+         prefix + "GetInterfaceException - 0x80000040 (Unexpected): iid:9cca5603. At "
+                  "qor/rtl/objclient(113) \n"},
         {0, throws, rcOutOfMemory, prefix + "long\n"},
         {0, throwsCode, rcFalse, prefix + "ResultCodeException - 0x00000001 (False). At f(7) \n"},
         {0, throwsAnything, rcUnknownException, ""}};

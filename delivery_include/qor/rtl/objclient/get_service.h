@@ -21,17 +21,23 @@ result_t GetService(IServiceLocator& locator, objptr_t<Interface>& service) {
     return code;
 }
 
-/// The same for callers that cannot do without the service.
-/// @throws GetInterfaceException with the code of a failed lookup.
+/// The exception for a lookup of the service `Interface` that answered `code`.
 template <class Interface>
-objptr_t<Interface> RequireService(IServiceLocator& locator) {
+GetInterfaceException MissingService(result_t code) {
     // What the exception's text prints as its place.
     constexpr const char* kSourceFile = "qor/rtl/objclient";
     constexpr std::int32_t kSourceLine = 113;
+    return GetInterfaceException(Interface::InterfaceId, code, kSourceFile, kSourceLine);
+}
+
+/// `GetService` for callers that cannot do without the service.
+/// @throws GetInterfaceException with the code of a failed lookup.
+template <class Interface>
+objptr_t<Interface> RequireService(IServiceLocator& locator) {
     objptr_t<Interface> service;
     const result_t code = GetService(locator, service);
     if (Failed(code)) {
-        throw GetInterfaceException(Interface::InterfaceId, code, kSourceFile, kSourceLine);
+        throw MissingService<Interface>(code);
     }
     return service;
 }

@@ -11,8 +11,14 @@ namespace qor {
 
 class AllocatorProvider {
 public:
+    /// @throws GetInterfaceException also when the locator succeeds without giving one: the object's
+    ///         memory could not be given back.
     explicit AllocatorProvider(IServiceLocator& locator)
-        : allocator_(RequireService<IAllocator>(locator)) {}
+        : allocator_(RequireService<IAllocator>(locator)) {
+        if (!allocator_) {
+            throw MissingService<IAllocator>(rcUnexpected);
+        }
+    }
 
     IAllocator* GetAllocator() const noexcept { return allocator_.get(); }
 
