@@ -2,7 +2,11 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <memory>
+#include <random>
+#include <regex>
 #include <thread>
+#include <tuple>
 
 #include "AbiHost.h"
 
@@ -12,6 +16,8 @@ using namespace abi_host;
 
 constexpr int kThreads = 6;
 constexpr int kRounds = 40;
+constexpr std::string_view kApp = "Own = Name + {$n: ' one', ' more'} + $n Unknown = $nobody";
+const std::pair<std::uint32_t, std::u16string> kCultures[] = {{8, u"en"}, {13, u"de"}, {12, u"fr"}};
 
 /// Runs a function on several threads that begin together.
 template <class Function>
@@ -38,7 +44,7 @@ protected:
         for (const std::string culture : {"en", "de", "fr"}) {
             tree.Write(culture + "/Locs/common.lt",
                        std::string("Name = Base + '!' Base = '").append(culture).append("'"));
-            tree.Write(culture + "/Locs/app.lt", "Own = Name + {$n: ' one', ' more'} + $n");
+            tree.Write(culture + "/Locs/app.lt", kApp);
             tree.Write(culture + "/app/file", culture);
         }
         tree.Write("en/Locs/late.lt", "Own = 'own'");
@@ -55,24 +61,6 @@ protected:
 private:
     std::atomic<int> written_{0};
 };
-
-TEST_F(ConcurrencyTest, CulturesMayChangeFromThreadToThread) {
-    const std::pair<std::uint32_t, std::u16string> cultures[] = {
-        {8, u"en"}, {13, u"de"}, {12, u"fr"}};
-    OnThreads([&](int thread) {
-        for (int round = 0; round < kRounds; ++round) {
-            const auto& [language, name] = cultures[(thread + round) % 3];
-            const Localizer localizer = MakeLocalizer(u"app", Culture(language));
-            Object stream;
-            EXPECT_EQ(localizer.Call(kGetStream, String16(u"file"), stream.Out()), kOk);
-            EXPECT_EQ(localizer.Get(u"own"), name + u"! one1");
-            EXPECT_EQ(localizer.Get(u"name"), name + u"!");
-            std::int64_t size = 0;
-            EXPECT_EQ(stream.Call(7, &size), kOk);
-            EXPECT_EQ(size, 2);
-        }
-    });
-}
 
 TEST_F(ConcurrencyTest, SharedLocalizersTakeTheirFirstRequestsTogether) {
     for (int round = 0; round < kRounds; ++round) {
@@ -129,6 +117,147 @@ TEST_F(ConcurrencyTest, CommonSourceMayGetItsFirstTextsWhileOthersAreServed) {
         EXPECT_EQ(MakeLocalizer(u"late").Get(u"name"), u"late");
         MakeLocalizer(u"app", Culture(13));
     }
+}
+
+/// Threads that have an object of each kind at most, and do one thing after the other with them.
+class EverythingAtOnceTest : public ConcurrencyTest {
+protected:
+    enum { kFactory, kManager, kLocalizer, kStream, kObjects };
+    /// What a thread has; others may hold the same objects, apart from the stream.
+    struct Holding {
+        std::size_t Draw(std::size_t bound) { return engine() % bound; }
+
+        std::mt19937 engine;
+        std::array<Object, kObjects> objects = {};
+        std::size_t kind = 0;      // of the localizer
+        std::size_t culture = 0;   // of the localizer
+        std::string content = {};  // of the stream
+    };
+    using Own = std::unique_ptr<Holding>;
+    using Action = void (EverythingAtOnceTest::*)(Own&);
+
+    void Act(Own& own) {
+        constexpr Action kActions[] = {
+            &EverythingAtOnceTest::MakeLocalizer, &EverythingAtOnceTest::AskForText,
+            &EverythingAtOnceTest::AskForFile, &EverythingAtOnceTest::HandOver};
+        if (own->objects[kLocalizer].get() == nullptr) {
+            MakeLocalizer(own);
+        }
+        EXPECT_EQ(CanUnload(), kFalse);
+        (this->*kActions[own->Draw(std::size(kActions))])(own);
+        if (own->Draw(3) == 0) {
+            own->objects[own->Draw(kObjects)].Reset();
+        }
+    }
+
+    void MakeLocalizer(Own& own) {
+        auto& [factory, from, localizer, stream] = own->objects;
+        if (from.get() == nullptr) {
+            void* const locator = &services;
+            ErrorListener* const reportsTo = &listener;
+            EXPECT_EQ(GetObjectFactory(locator, kManagerClass, factory.Out()), kOk);
+            EXPECT_EQ(factory.Call(3, locator, kManagerId, from.Out()), kOk);
+            EXPECT_EQ(from.Call(kInitEx, String16(tree.Path()), String16(), &reportsTo), kOk);
+        }
+        const auto& [slot, text, file] = kKinds[own->kind = own->Draw(std::size(kKinds))];
+        const String16 source(std::u16string(text.begin(), text.end()));
+        own->culture = own->Draw(std::size(kCultures));
+        const Culture culture(kCultures[own->culture].first);
+        ParamResolver* const params = &resolver;
+        void** const out = localizer.Out();
+        EXPECT_EQ(slot == kFromBuffers
+                      ? from.Call(slot, String16(), source, String16(), culture, params, out)
+                      : from.Call(slot, source, culture, params, out),
+                  kOk);
+    }
+
+    void AskForText(Own& own) {
+        const Object& localizer = own->objects[kLocalizer];
+        const std::size_t which = own->Draw(std::size(kTexts));
+        const auto& [key, ending] = kTexts[which];
+        const bool hasSource = own->kind != kMissing;
+        const bool hasText = hasSource && which < 3;
+        String16 text;
+        ResolveListener heard;
+        EXPECT_EQ(localizer.Call(kGetResolved, String16(key), &text, &heard),
+                  hasText ? kOk : kUnspecifiedError);
+        EXPECT_EQ(text.Text(), hasText ? kCultures[own->culture].second + ending : u"");
+        const std::string told = heard.Take();
+        EXPECT_EQ(told.substr(told.rfind('|') + 1), hasText ? text.Narrow() + '\n' : "");
+        EXPECT_EQ(localizer.Call(kHasString, String16(key)),
+                  hasSource && which < 4 ? kOk : kUnspecifiedError);
+        failures += hasText ? 0U : hasSource ? 1U : 2U;
+    }
+
+    void AskForFile(Own& own) {
+        const Object& localizer = own->objects[kLocalizer];
+        const Result expected = std::get<Result>(kKinds[own->kind]);
+        const String16 file(u"file");
+        String16 path;
+        EXPECT_EQ(localizer.Call(kGetPath, file, &path), expected);
+        EXPECT_EQ(localizer.Call(kHasResource, file),
+                  expected == kNotFound ? kUnspecifiedError : expected);
+        EXPECT_EQ(localizer.Call(kGetStream, file, own->objects[kStream].Out()), expected);
+        own->content = String16(kCultures[own->culture].second).Narrow();
+        EXPECT_TRUE(path.size == 0 || path.Narrow() == tree.Root() / own->content / "app/file");
+    }
+
+    /// Leaves the stream and a share in all else to others, and may go on with what they left.
+    void HandOver(Own& own) {
+        std::array<Object, kObjects>& objects = own->objects;
+        if (objects[kStream].get() != nullptr) {
+            char bytes[8];
+            std::uint32_t read = 0;
+            EXPECT_EQ(objects[kStream].Call(5, 0, std::int64_t{1}, nullptr), kOk);
+            EXPECT_EQ(objects[kStream].Call(3, &bytes[0], 8U, &read), kOk);
+            EXPECT_EQ(std::string(bytes, read), own->content.substr(1));
+        }
+        Own left(
+            new Holding{std::mt19937(own->engine()), {}, own->kind, own->culture, own->content});
+        for (std::size_t i = 0; i < kObjects; ++i) {
+            if (objects[i].get() != nullptr) {
+                objects[i].Call(0);
+                *left->objects[i].Out() = objects[i].get();
+            }
+        }
+        objects[kStream].Reset();
+        left.reset(exchange[own->Draw(2)].exchange(left.release(), std::memory_order_acq_rel));
+        if (left != nullptr && own->Draw(2) != 0) {
+            own = std::move(left);
+        }
+    }
+
+    /// Where a localizer's texts come from, and what it answers to a request for a file.
+    static constexpr std::tuple<ManagerSlot, std::string_view, Result> kKinds[] = {
+        {kFromFiles, "app", kOk},
+        {kFromBuffer, kApp, kNotFound},
+        {kFromBuffers, kApp, kNotImplemented},
+        {kFromFiles, "none", kNotFound}};
+    static constexpr std::size_t kMissing = 3;
+    /// Keys and what follows the culture in their texts; the last two have none, the last is no key.
+    static constexpr std::pair<const char16_t*, const char16_t*> kTexts[] = {
+        {u"base", u""}, {u"NAME", u"!"}, {u"Own", u"! one1"}, {u"unknown", u""}, {u"none", u""}};
+
+    std::array<std::atomic<Holding*>, 2> exchange = {};  // what threads left for each other
+    std::atomic<std::size_t> failures{0};
+};
+
+TEST_F(EverythingAtOnceTest, IsAnsweredAsIfAlone) {
+    manager.Reset();
+    OnThreads([&](int thread) {
+        Own own(new Holding{std::mt19937(static_cast<unsigned>(thread))});
+        for (int i = 0; i < 40 * kRounds; ++i) {
+            Act(own);
+        }
+    });
+    for (const std::atomic<Holding*>& left : exchange) {
+        delete left.load();
+    }
+    EXPECT_EQ(CanUnload(), kOk);
+    const std::regex report(
+        "localization manager error: .*( 'none.lt'|Key 'none' not found|nobody, error: Not "
+        "found)\n");
+    EXPECT_EQ(std::regex_replace(listener.Take(), report, "."), std::string(failures, '.'));
 }
 
 }  // namespace
