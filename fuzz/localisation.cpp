@@ -6,7 +6,7 @@
 
 namespace {
 
-std::string PrintLiteral(const std::u16string& text) {
+std::string PrintLiteral(std::u16string_view text) {
     std::string literal = "'";
     for (const char character : localization_manager::host::ToUtf8(text)) {
         literal += character == '\'' || character == '\\' || character == '\n' ? "\\" : "";
@@ -17,7 +17,7 @@ std::string PrintLiteral(const std::u16string& text) {
 
 std::string PrintSource(const lm_test::model::ResourceDictionary& dictionary) {
     std::string source;
-    for (const auto& [key, value] : dictionary) {
+    for (const auto& [key, value] : lm_test::EntriesOf(dictionary)) {
         source += lm_test::ToUtf8(key) + '=' + lm_test::PrintValue(value, PrintLiteral) + '\n';
     }
     return source;

@@ -2,7 +2,7 @@
 #include <boost/lexical_cast/bad_lexical_cast.hpp>
 #include <boost/lexical_cast/try_lexical_convert.hpp>
 #include <boost/make_shared.hpp>
-#include <boost/variant/get.hpp>
+#include <map>
 #include <set>
 #include <typeinfo>
 
@@ -23,17 +23,18 @@
 namespace {
 
 using namespace LocalizationManager::StringLocalizing;
-using Dictionary = Model::ResourceDictionary;
-using Operands = std::vector<Model::Operand>;
+using Dictionary = std::map<std::u16string, Model::ValueView>;
 using lm_fuzz::Require;
+using Model::OperandKind;
+using Operands = std::vector<Model::OperandView>;
 
 /// Has the texts of the input; "!" is none.
 struct Parameters : Resolving::IParamResolver {
     std::u16string texts;
 
-    std::u16string Resolve(const std::u16string& name) override {
-        const std::u16string_view text = lm_fuzz::ParameterText(texts, name);
-        return text != u"!" ? std::u16string(text) : throw std::runtime_error("no text");
+    qor::string16_t Resolve(const qor::string16_t& name) override {
+        const std::u16string_view text = lm_fuzz::ParameterText(texts, name.view());
+        return text != u"!" ? qor::string16_t(text) : throw std::runtime_error("no text");
     }
 };
 
@@ -45,7 +46,7 @@ struct LanguageModel {
     std::vector<Dictionary> dictionaries;  // a value sees the keys of its own and of later ones
     Resolving::IParamResolver& parameters;
     Model::PluralFormRule rule;
-    std::set<const Model::Value*> path{};
+    std::set<const char16_t*> path{};
 
     std::u16string Check() {
         for (const std::size_t level : {1U, 0U}) {
@@ -57,40 +58,40 @@ struct LanguageModel {
     }
 
     /// The value of a key without references.
-    Model::Value Inline(std::size_t level, const std::u16string& key) {
+    Operands Inline(std::size_t level, const std::u16string& key) {
         while (level < dictionaries.size() && dictionaries[level].count(key) == 0) {
             ++level;
         }
         if (level == dictionaries.size()) {
             throw Model::KeyNotFoundException(key);
         }
-        const Model::Value& value = dictionaries[level].at(key);
-        if (!path.insert(&value).second) {
+        const Model::ValueView value = dictionaries[level].at(key);
+        if (!path.insert(value.code().data()).second) {
             throw Compiling::CyclicReferenceException(key);
         }
         Operands inlined;
-        for (const Model::Operand& operand : value.operands) {
-            const auto* const ref = boost::get<Model::KeyRef>(&operand);
-            const Operands parts =
-                ref != nullptr ? Inline(level, ref->key).operands : Operands{operand};
+        for (const Model::OperandView& operand : value) {
+            const Operands parts = operand.kind == OperandKind::KeyRef
+                                       ? Inline(level, std::u16string(operand.text))
+                                       : Operands{operand};
             inlined.insert(inlined.end(), parts.begin(), parts.end());
             if (inlined.size() > kMaxOperands) {
                 throw Compiling::ExpansionLimitException(key, kMaxOperands);
             }
         }
-        path.erase(&value);
-        return {inlined};
+        path.erase(value.code().data());
+        return inlined;
     }
 
-    std::u16string Text(const Model::Value& value) {
+    std::u16string Text(const Operands& operands) {
         std::u16string text;
-        for (const Model::Operand& operand : value.operands) {
-            if (const auto* const literal = boost::get<std::u16string>(&operand)) {
-                text += *literal;
-            } else if (const auto* const param = boost::get<Model::Param>(&operand)) {
-                text += parameters.Resolve(param->name);
-            } else if (const auto* const pluralForm = boost::get<Model::PluralForm>(&operand)) {
-                text += Text(Form(*pluralForm));
+        for (const Model::OperandView& operand : operands) {
+            if (operand.kind == OperandKind::Text) {
+                text += operand.text;
+            } else if (operand.kind == OperandKind::Param) {
+                text += parameters.Resolve(qor::string16_t(operand.text)).view();
+            } else if (operand.kind == OperandKind::PluralForm) {
+                text += Text(Form(operand));
             } else {
                 throw std::logic_error("a reference in a form");
             }
@@ -98,9 +99,14 @@ struct LanguageModel {
         return text;
     }
 
-    const Model::Value& Form(const Model::PluralForm& pluralForm) {
+    Operands Form(const Model::OperandView& pluralForm) {
+        std::vector<Model::ValueView> forms;
+        for (std::u16string_view rest = pluralForm.forms; !rest.empty();) {
+            forms.emplace_back(Model::TakeText(rest));
+        }
         std::string digits;
-        for (const char16_t unit : parameters.Resolve(pluralForm.paramName)) {
+        const qor::string16_t text = parameters.Resolve(qor::string16_t(pluralForm.text));
+        for (const char16_t unit : text.view()) {
             digits += unit < 0x80 ? static_cast<char>(unit) : '?';
         }
         std::int64_t number = 0;
@@ -111,8 +117,8 @@ struct LanguageModel {
         while (form < rule.size() && !rule[form](number)) {
             ++form;
         }
-        return rule.size() == pluralForm.forms.size() && form < rule.size()
-                   ? pluralForm.forms[form]
+        return rule.size() == forms.size() && form < rule.size()
+                   ? Operands(forms[form].begin(), forms[form].end())
                    : throw std::logic_error("no form");
     }
 };
@@ -127,8 +133,9 @@ std::pair<std::u16string, std::string> OutcomeOf(Call call) {
     }
 }
 
-std::u16string Compile(const boost::shared_ptr<Dictionary>& scope,
-                       const boost::shared_ptr<Dictionary>& common) {
+using DictionaryPointer = boost::shared_ptr<Model::ResourceDictionary>;
+
+std::u16string Compile(const DictionaryPointer& scope, const DictionaryPointer& common) {
     const auto compiler = boost::make_shared<Compiling::ResourceCompiler>(
         boost::make_shared<Compiling::RootExpressionProvider>());
     compiler->Compile(common);
@@ -137,14 +144,19 @@ std::u16string Compile(const boost::shared_ptr<Dictionary>& scope,
 }
 
 void Compare(const std::array<std::u16string, 4>& input) {
-    const auto scope = boost::make_shared<Dictionary>(lm_test::ParseDictionary(input[0]));
-    const auto common = boost::make_shared<Dictionary>(lm_test::ParseDictionary(input[1]));
+    using Model::ResourceDictionary;
+    const auto scope = boost::make_shared<ResourceDictionary>(lm_test::ParseDictionary(input[0]));
+    const auto common = boost::make_shared<ResourceDictionary>(lm_test::ParseDictionary(input[1]));
     const auto parameters = boost::make_shared<Parameters>();
     parameters->texts = input[2];
     const Model::PluralFormRuleId id(
         static_cast<localization_manager::Language>((input[3] + u'.')[0] % 38), "");
     const auto rules = Model::CreatePluralFormRules();
-    LanguageModel model{{*scope, *common}, *parameters, rules->GetRule(id)};
+    const auto scopeOfModel = lm_test::ParseDictionary(input[0]);
+    const auto commonOfModel = lm_test::ParseDictionary(input[1]);
+    LanguageModel model{{lm_test::EntriesOf(scopeOfModel), lm_test::EntriesOf(commonOfModel)},
+                        *parameters,
+                        rules->GetRule(id)};
 
     const std::string expected = OutcomeOf([&] { return model.Check(); }).second;
     const std::string compiled = OutcomeOf([&] { return Compile(scope, common); }).second;
@@ -157,9 +169,11 @@ void Compare(const std::array<std::u16string, 4>& input) {
         parameters, boost::make_shared<Resolving::PluralResolver>(parameters, id, rules));
     const auto root = boost::make_shared<Resolving::RootStringProvider>(keyResolver, common, u"");
     Resolving::StringProvider provider(keyResolver, scope, root, u"");
-    for (const Dictionary& keys : {*scope, *common, Dictionary{{u"no.key", {}}}}) {
+    for (const Dictionary& keys : {model.dictionaries[0], model.dictionaries[1],
+                                   Dictionary{{u"no.key", Model::ValueView({})}}}) {
         for (const auto& entry : keys) {
-            const auto text = OutcomeOf([&] { return provider.GetString(entry.first, nullptr); });
+            const auto text = OutcomeOf(
+                [&] { return std::u16string(provider.GetString(entry.first, nullptr).view()); });
             Require(text == OutcomeOf([&] { return model.Text(model.Inline(0, entry.first)); }),
                     "the resolvers agree with the model");
         }

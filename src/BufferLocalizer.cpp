@@ -25,7 +25,7 @@ class BufferLocalizer::ParamResolverWrapper : public HostParamResolver {
 public:
     using HostParamResolver::HostParamResolver;
 
-    std::u16string Resolve(const std::u16string& name) override {
+    qor::string16_t Resolve(const qor::string16_t& name) override {
         return Ask(name, BOOST_CURRENT_FUNCTION, kResolveLine);
     }
 };

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "Engine.h"
 #include "IParamResolver.h"
 #include "localization_manager/IParamResolver.h"
+#include "qor/basic_string_t.h"
 #include "qor/objptr_t.h"
 
 namespace localization_manager {
@@ -23,7 +23,7 @@ protected:
     /// @param line      line of the call.
     /// @throws QorCallFailedException when the host answers with a failure code; std::runtime_error
     ///         when there is no resolver; what the host throws.
-    std::u16string Ask(const std::u16string& name, const char* function, std::int32_t line) const;
+    qor::string16_t Ask(const qor::string16_t& name, const char* function, std::int32_t line) const;
 
 private:
     qor::objptr_t<localization_manager::IParamResolver> paramResolver_;

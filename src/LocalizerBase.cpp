@@ -22,7 +22,7 @@ void LocalizerBase::Init(const qor::string16_t& scope, const Culture& culture,
 qor::result_t LocalizerBase::HasString(const qor::string16_t& key) {
     StringProvider* const provider = EnsureStringProvider();
     try {
-        const bool hasKey = provider != nullptr && provider->HasString(std::u16string(key.view()));
+        const bool hasKey = provider != nullptr && provider->HasString(key.view());
         return hasKey ? qor::rcOk : qor::rcUnspecifiedError;
     } catch (const std::exception&) {  // memory ran out
         return qor::rcUnspecifiedError;
@@ -36,7 +36,7 @@ qor::result_t LocalizerBase::GetResolvedString(const qor::string16_t& key, qor::
         return qor::rcUnspecifiedError;
     }
     try {
-        result = provider->GetString(std::u16string(key.view()), listener);
+        result = provider->GetString(key.view(), listener).view();
         return qor::rcOk;
     } catch (const std::exception& failure) {
         ReportError("cannot get string", key, failure);

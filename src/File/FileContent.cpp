@@ -26,13 +26,13 @@ constexpr std::int32_t kReadLine = 121;
 
 /// Decodes, and drops zeros at the end. A text of zeros only is as long as the file has bytes.
 std::u16string Decode(std::string_view bytes, std::size_t fileSize) {
-    std::u16string text(fileSize, u'\0');
-    Platform::DecodeUtf8(bytes, text.data());
+    // Not a string: it would first be filled with zeros.
+    const std::unique_ptr<char16_t[]> buffer(new char16_t[fileSize]);
+    const std::size_t size = Platform::DecodeUtf8(bytes, buffer.get());
+    const std::u16string_view text(buffer.get(), size);
     const std::size_t last = text.find_last_not_of(u'\0');
-    if (last != std::u16string::npos) {
-        text.resize(last + 1);
-    }
-    return text;
+    return last != std::u16string_view::npos ? std::u16string(text.substr(0, last + 1))
+                                             : std::u16string(fileSize, u'\0');
 }
 
 }  // namespace

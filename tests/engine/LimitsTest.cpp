@@ -28,7 +28,7 @@ constexpr std::size_t kStackSize = std::size_t{8} * 1024 * 1024;
 #endif
 
 struct AlwaysOne : Resolving::IParamResolver {
-    std::u16string Resolve(const std::u16string& /*name*/) override { return u"1"; }
+    qor::string16_t Resolve(const qor::string16_t& /*name*/) override { return u"1"; }
 };
 
 void OnSmallStack(std::function<void()> work) {
@@ -66,8 +66,8 @@ TEST(LimitsTest, FormsNestUpToTheLimit) {
         Resolving::KeyResolver resolver(
             params, boost::make_shared<Resolving::PluralResolver>(params, japanese,
                                                                   Model::CreatePluralFormRules()));
-        const Model::ResourceDictionary copy = lm_test::ParseDictionary(source(kMaxNesting));
-        EXPECT_EQ(resolver.Resolve(copy.at(u"a"), nullptr), u"x");
+        const Model::ResourceDictionary parsed = lm_test::ParseDictionary(source(kMaxNesting));
+        EXPECT_EQ(resolver.Resolve(parsed.At(*parsed.Find(u"a")).value, nullptr).view(), u"x");
     });
     const std::string error =
         lm_test::ErrorText([&] { lm_test::ParseDictionary(source(kMaxNesting + 1)); });
@@ -94,10 +94,10 @@ TEST(LimitsTest, ReferencesExpandUpToTheLimits) {
     using Compiling::kMaxExpandedValue;
     const auto compile = [](std::size_t length, std::size_t values) {
         const auto dictionary = boost::make_shared<Model::ResourceDictionary>();
-        (*dictionary)[u"text"].operands = {std::u16string(length - 1, u'x')};
+        dictionary->Add(u"text", lm_test::MakeValue({std::u16string(length - 1, u'x')}));
         for (std::size_t i = 0; i < values; ++i) {
-            (*dictionary)[{u'v', static_cast<char16_t>(u'0' + i)}].operands = {
-                Model::KeyRef{u"text"}};
+            dictionary->Add(std::u16string{u'v', static_cast<char16_t>(u'0' + i)},
+                            lm_test::MakeValue({Model::KeyRef{u"text"}}));
         }
         return lm_test::ErrorText<std::runtime_error>([&] {
             Compiling::ResourceCompiler(boost::make_shared<Compiling::RootExpressionProvider>())

@@ -13,6 +13,7 @@
 namespace {
 
 using namespace LocalizationManager::StringLocalizing;
+using lm_test::MakeValue;
 using lm_test::ParseDictionary;
 using lm_test::PrintDictionary;
 
@@ -64,13 +65,14 @@ TEST_F(ResourceCompilerTest, ReferencesAreInlinedTextsJoinedAndUnfinishedValuesL
 
 TEST_F(ResourceCompilerTest, CompilingAgainWritesNothing) {
     *scope_ = ParseDictionary(u"a=b+$p+c b='x'+'y' c={$n:a,b} d='plain'");
-    const Model::Operand* storage[2][4] = {};
-    for (auto& addresses : storage) {
+    std::vector<const char16_t*> places[2];
+    for (auto& compiled : places) {
         EXPECT_EQ(Compile(), "no exception");
-        std::transform(scope_->begin(), scope_->end(), addresses,
-                       [](const auto& entry) { return entry.second.operands.data(); });
+        for (const auto& entry : lm_test::EntriesOf(*scope_)) {
+            compiled.push_back(entry.second.code().data());
+        }
     }
-    EXPECT_TRUE(std::equal(storage[0], storage[0] + 4, storage[1]));
+    EXPECT_EQ(places[0], places[1]);
 }
 
 TEST_F(ResourceCompilerTest, LongChainsNeitherRecurseNorTakeSquareTime) {
@@ -80,15 +82,16 @@ TEST_F(ResourceCompilerTest, LongChainsNeitherRecurseNorTakeSquareTime) {
         return std::u16string(text.begin(), text.end());
     };
     for (int i = 0; i < kLength; ++i) {
-        (*scope_)[key('a', i)].operands = {Model::KeyRef{key('a', i + 1)}};
-        (*scope_)[key('b', i)].operands = {Model::KeyRef{key('a', 0)}, std::u16string(u"!")};
+        scope_->Add(key('a', i), MakeValue({Model::KeyRef{key('a', i + 1)}}));
+        scope_->Add(key('b', i), MakeValue({Model::KeyRef{key('a', 0)}, std::u16string(u"!")}));
     }
-    (*scope_)[key('a', kLength)].operands = {std::u16string(u"end")};
+    scope_->Add(key('a', kLength), MakeValue({std::u16string(u"end")}));
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(Compile(), "no exception");
     // Far above what one walk over all entries takes, far below a walk for each of them.
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
-    EXPECT_EQ(lm_test::PrintValue(scope_->at(key('b', kLength - 1))), R"("end!")");
+    EXPECT_EQ(lm_test::PrintValue(scope_->At(*scope_->Find(key('b', kLength - 1))).value),
+              R"("end!")");
 }
 
 }  // namespace

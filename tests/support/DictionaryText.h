@@ -1,8 +1,8 @@
 // Dictionaries from and to readable text.
 #pragma once
 
-#include <boost/variant/apply_visitor.hpp>
-#include <boost/variant/static_visitor.hpp>
+#include <initializer_list>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -28,45 +28,63 @@ inline model::ResourceDictionary ParseDictionary(std::u16string_view source) {
     return dictionary;
 }
 
-inline std::string Quote(const std::u16string& text) {
+inline std::string Quote(std::u16string_view text) {
     return '"' + ToUtf8(text) + '"';
 }
 
+/// "text" + key + $param + {$param: value, value}
 /// @param printText  how texts are written.
-inline std::string PrintValue(const model::Value& value,
-                              std::string (*printText)(const std::u16string&) = Quote);
-
-struct OperandPrinter : boost::static_visitor<std::string> {
-    std::string (*printText)(const std::u16string&);
-
-    std::string operator()(const std::u16string& text) const { return printText(text); }
-    std::string operator()(const model::KeyRef& ref) const { return ToUtf8(ref.key); }
-    std::string operator()(const model::Param& param) const { return '$' + ToUtf8(param.name); }
-    std::string operator()(const model::PluralForm& pluralForm) const {
-        std::string text = "{$" + ToUtf8(pluralForm.paramName);
-        for (const model::Value& form : pluralForm.forms) {
-            text +=
-                (&form == &pluralForm.forms.front() ? ": " : ", ") + PrintValue(form, printText);
+inline std::string PrintValue(model::ValueView value,
+                              std::string (*printText)(std::u16string_view) = Quote) {
+    const auto print = [&](const model::OperandView& operand) {
+        switch (operand.kind) {
+            case model::OperandKind::Text:
+                return printText(operand.text);
+            case model::OperandKind::KeyRef:
+                return ToUtf8(operand.text);
+            case model::OperandKind::Param:
+                return '$' + ToUtf8(operand.text);
+            case model::OperandKind::PluralForm:
+                break;
+        }
+        std::string text = "{$" + ToUtf8(operand.text);
+        for (std::u16string_view forms = operand.forms; !forms.empty();) {
+            text += forms.size() == operand.forms.size() ? ": " : ", ";
+            text += PrintValue(model::ValueView(model::TakeText(forms)), printText);
         }
         return text + '}';
-    }
-};
-
-/// "text" + key + $param + {$param: value, value}
-inline std::string PrintValue(const model::Value& value,
-                              std::string (*printText)(const std::u16string&)) {
-    const OperandPrinter printer{{}, printText};
+    };
     std::string text;
-    for (const model::Operand& operand : value.operands) {
-        text += (text.empty() ? "" : " + ") + boost::apply_visitor(printer, operand);
+    for (const model::OperandView& operand : value) {
+        text += (text.empty() ? "" : " + ") + print(operand);
     }
     return text;
+}
+
+/// The entries in the order of the keys.
+inline std::map<std::u16string, model::ValueView> EntriesOf(
+    const model::ResourceDictionary& dictionary) {
+    std::map<std::u16string, model::ValueView> entries;
+    dictionary.ForEach([&](auto position) {
+        const auto [key, value] = dictionary.At(position);
+        entries.emplace(key, value);
+    });
+    return entries;
+}
+
+/// A value of the given operands.
+inline model::Value MakeValue(std::initializer_list<model::Operand> operands) {
+    model::Value value;
+    for (const model::Operand& operand : operands) {
+        value.Append(operand);
+    }
+    return value;
 }
 
 /// key = value;key = value;
 inline std::string PrintDictionary(const model::ResourceDictionary& dictionary) {
     std::string text;
-    for (const auto& [key, value] : dictionary) {
+    for (const auto& [key, value] : EntriesOf(dictionary)) {
         text += ToUtf8(key) + " = " + PrintValue(value) + ";";
     }
     return text;

@@ -3,13 +3,18 @@
 
 #include "CultureNames.h"
 #include "GlobalLocale.h"
-#include "LowerCase.h"
+#include "LowerCaseMapping.h"
 #include "Utf8.h"
 
 namespace {
 
 using namespace std::literals;
 using namespace LocalizationManager::Text;
+
+std::u16string Mapped(std::u16string key, const LowerCaseMapping& lowerCase) {
+    lowerCase.Map(key, key.data());
+    return key;
+}
 
 TEST(TextTest, KeysAreLowerCasedUnitByUnitAsTheGlobalLocaleSays) {
     const struct {
@@ -22,9 +27,10 @@ TEST(TextTest, KeysAreLowerCasedUnitByUnitAsTheGlobalLocaleSays) {
         {u"A\xD800Z", u"a\xD800z", u"a\xD800z"},
     };
     for (const auto& expected : cases) {
-        EXPECT_EQ(LowerCase(expected.key), expected.classic);
+        const LowerCaseMapping classic;
         const lm_test::GlobalLocale english("en_US.UTF-8");
-        EXPECT_EQ(LowerCase(expected.key), expected.english);
+        EXPECT_EQ(Mapped(expected.key, classic), expected.classic);
+        EXPECT_EQ(Mapped(expected.key, LowerCaseMapping()), expected.english);
     }
 }
 

@@ -1,10 +1,9 @@
 // Where the compiler finds the values that keys stand for.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <string_view>
 
-#include "Operand.h"
+#include "Value.h"
 
 namespace LocalizationManager::StringLocalizing::Compiling {
 
@@ -12,8 +11,7 @@ class IExpressionProvider {
 public:
     /// @param operands  receives the compiled operands of the key, in place of what it held.
     /// @throws KeyNotFoundException for a key that is unknown.
-    virtual void GetExpression(const std::u16string& key,
-                               std::vector<Model::Operand>& operands) = 0;
+    virtual void GetExpression(std::u16string_view key, Model::Value& operands) = 0;
 
     virtual ~IExpressionProvider() = default;
 };

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <boost/current_function.hpp>
-#include <boost/variant/apply_visitor.hpp>
-#include <boost/variant/get.hpp>
-#include <boost/variant/static_visitor.hpp>
+#include <set>
+#include <string>
 #include <utility>
 
 #include "CyclicReferenceException.h"
@@ -13,47 +12,35 @@
 
 namespace LocalizationManager::StringLocalizing::Compiling {
 
-using Model::KeyRef;
-using Model::Operand;
+using Model::OperandKind;
+using Model::OperandView;
+using Model::Value;
+using Model::ValueView;
 
 namespace {
 
-using Operands = std::vector<Operand>;
-
-bool IsText(const Operand& operand) {
-    return boost::get<std::u16string>(&operand) != nullptr;
-}
-
-/// Whether compiling would change the operands: a reference to inline, or texts to merge. It tells
+/// Whether compiling would change the value: a reference to inline, or texts to merge. It tells
 /// compiled values from others, so that no record of them is kept.
-bool NeedsCompiling(const Operands& operands) {
-    const auto isRef = [](const Operand& operand) {
-        return boost::get<KeyRef>(&operand) != nullptr;
-    };
-    const auto areTexts = [](const Operand& left, const Operand& right) {
-        return IsText(left) && IsText(right);
-    };
-    return std::any_of(operands.begin(), operands.end(), isRef) ||
-           std::adjacent_find(operands.begin(), operands.end(), areTexts) != operands.end();
+bool NeedsCompiling(ValueView value) {
+    bool followsText = false;
+    return std::any_of(value.begin(), value.end(), [&](const OperandView& operand) {
+        const bool isText = operand.kind == OperandKind::Text;
+        const bool joinsText = followsText && isText;
+        followsText = isText;
+        return operand.kind == OperandKind::KeyRef || joinsText;
+    });
 }
 
 /// What an operand counts towards the limits of expansion: its units, and one for itself.
-class ExpandedSize : public boost::static_visitor<std::size_t> {
-public:
-    std::size_t operator()(const std::u16string& text) const { return 1 + text.size(); }
-    std::size_t operator()(const KeyRef& ref) const { return 1 + ref.key.size(); }
-    std::size_t operator()(const Model::Param& param) const { return 1 + param.name.size(); }
-
-    std::size_t operator()(const Model::PluralForm& pluralForm) const {
-        std::size_t size = 1 + pluralForm.paramName.size();
-        for (const Model::Value& form : pluralForm.forms) {
-            for (const Operand& operand : form.operands) {
-                size += boost::apply_visitor(*this, operand);
-            }
+std::size_t ExpandedSize(const OperandView& operand) {
+    std::size_t size = 1 + operand.text.size();
+    for (std::u16string_view forms = operand.forms; !forms.empty();) {
+        for (const OperandView& inner : ValueView(Model::TakeText(forms))) {
+            size += ExpandedSize(inner);
         }
-        return size;
     }
-};
+    return size;
+}
 
 }  // namespace
 
@@ -67,24 +54,36 @@ void ResourceCompiler::Compile(boost::shared_ptr<Model::ResourceDictionary> reso
     code_contracts::RequireNotNull(
         resourceDictionary, {"resourceDictionary", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
     dictionary_ = std::move(resourceDictionary);
-    expandedSize_ = 0;
-    for (Entry& entry : *dictionary_) {
-        CompileKey(entry);
+    if (dictionary_->IsCompiled()) {
+        return;
     }
+    expandedSize_ = 0;
+    // The order decides which fault of several is found, and what counts towards a limit first.
+    std::set<std::u16string> keys;
+    dictionary_->ForEach([&](Position entry) {
+        const auto [key, value] = dictionary_->At(entry);
+        if (NeedsCompiling(value)) {
+            keys.emplace(key);
+        }
+    });
+    for (const std::u16string& key : keys) {
+        CompileKey(key);
+    }
+    dictionary_->SetCompiled();
 }
 
-void ResourceCompiler::GetExpression(const std::u16string& key, Operands& operands) {
-    const auto found = dictionary_->find(key);
-    if (found == dictionary_->end()) {
+void ResourceCompiler::GetExpression(std::u16string_view key, Value& operands) {
+    if (!dictionary_->Find(key)) {
         parent_->GetExpression(key, operands);
         return;
     }
-    CompileKey(*found);
-    operands = found->second.operands;
+    CompileKey(key);
+    operands = Value(dictionary_->At(*dictionary_->Find(key)).value);
 }
 
-void ResourceCompiler::CompileKey(Entry& entry) {
-    if (!NeedsCompiling(entry.second.operands)) {
+void ResourceCompiler::CompileKey(std::u16string_view key) {
+    const Position entry = *dictionary_->Find(key);
+    if (!NeedsCompiling(dictionary_->At(entry).value)) {
         return;
     }
     try {
@@ -99,88 +98,87 @@ void ResourceCompiler::CompileKey(Entry& entry) {
     }
 }
 
-void ResourceCompiler::Begin(Entry& entry) {
-    visiting_.insert(&entry);
-    visits_.push_back({&entry});
+void ResourceCompiler::Begin(Position entry) {
+    visiting_.insert(entry);
+    visits_.push_back({entry});
 }
 
 /// Handles the next operand of the innermost entry.
 void ResourceCompiler::Step() {
     Visit& visit = visits_.back();
-    const Operands& operands = visit.entry->second.operands;
-    if (visit.nextOperand == operands.size()) {
+    const std::u16string_view code = dictionary_->At(visit.entry).value.code();
+    if (visit.done == code.size()) {
         Finish();
-    } else if (const auto* ref = boost::get<KeyRef>(&operands[visit.nextOperand])) {
-        AppendReferenced(ref->key);
-    } else {
-        Append(operands[visit.nextOperand++]);
+        return;
     }
+    const OperandView operand = *ValueView(code.substr(visit.done)).begin();
+    if (operand.kind != OperandKind::KeyRef) {
+        Append(operand);
+    } else if (!AppendReferenced(operand.text)) {
+        return;
+    }
+    visit.done += operand.code.size();
 }
 
 void ResourceCompiler::Finish() {
-    Visit& visit = visits_.back();
-    visit.entry->second.operands.swap(visit.output);
+    const Visit& visit = visits_.back();
+    dictionary_->Replace(dictionary_->At(visit.entry).key, visit.output);
     visiting_.erase(visit.entry);
     visits_.pop_back();
 }
 
 /// Inlines a referenced key whose value is compiled; otherwise begins to compile it, and the
 /// innermost entry meets the same reference again when that is done.
-void ResourceCompiler::AppendReferenced(const std::u16string& key) {
-    Visit& visit = visits_.back();
-    const auto found = dictionary_->find(key);
-    if (found == dictionary_->end()) {
-        Operands inherited;
+/// @return whether it was inlined.
+bool ResourceCompiler::AppendReferenced(std::u16string_view key) {
+    const auto found = dictionary_->Find(key);
+    if (!found) {
+        Value inherited;
         parent_->GetExpression(key, inherited);
-        AppendAll(inherited);
-        ++visit.nextOperand;
-    } else if (visiting_.count(&*found) != 0) {
-        ThrowCycle(key);
-    } else if (NeedsCompiling(found->second.operands)) {
-        Begin(*found);
-    } else {
-        AppendAll(found->second.operands);
-        ++visit.nextOperand;
+        AppendAll(inherited.view());
+        return true;
     }
+    if (visiting_.count(*found) != 0) {
+        ThrowCycle(key);
+    }
+    const ValueView value = dictionary_->At(*found).value;
+    if (NeedsCompiling(value)) {
+        Begin(*found);
+        return false;
+    }
+    AppendAll(value);
+    return true;
 }
 
 /// Appends an operand that is no reference to the innermost entry; a text joins a text before it.
-void ResourceCompiler::Append(const Operand& operand) {
+void ResourceCompiler::Append(const OperandView& operand) {
     Visit& visit = visits_.back();
-    const std::size_t size = boost::apply_visitor(ExpandedSize(), operand);
+    const std::size_t size = ExpandedSize(operand);
     visit.outputSize += size;
     expandedSize_ += size;
+    const std::u16string_view key = dictionary_->At(visit.entry).key;
     if (visit.outputSize > kMaxExpandedValue) {
-        throw ExpansionLimitException(visit.entry->first, kMaxExpandedValue);
+        throw ExpansionLimitException(key, kMaxExpandedValue);
     }
     if (expandedSize_ > kMaxExpandedDictionary) {
-        throw ExpansionLimitException(visit.entry->first, kMaxExpandedDictionary);
+        throw ExpansionLimitException(key, kMaxExpandedDictionary);
     }
-    const auto* const text = boost::get<std::u16string>(&operand);
-    auto* const last =
-        visit.output.empty() ? nullptr : boost::get<std::u16string>(&visit.output.back());
-    if (text != nullptr && last != nullptr) {
-        last->append(*text);
-    } else {
-        visit.output.push_back(operand);
-    }
+    visit.output.Join(operand);
 }
 
-void ResourceCompiler::AppendAll(const Operands& operands) {
-    for (const Operand& operand : operands) {
+void ResourceCompiler::AppendAll(ValueView value) {
+    for (const OperandView& operand : value) {
         Append(operand);
     }
 }
 
-void ResourceCompiler::ThrowCycle(const std::u16string& key) const {
+void ResourceCompiler::ThrowCycle(std::u16string_view key) const {
     std::u16string chain;
     for (const Visit& visit : visits_) {
-        if (visit.entry->first == key) {
-            chain += u"(";
-        }
-        chain += visit.entry->first + u"->";
+        const std::u16string_view visited = dictionary_->At(visit.entry).key;
+        chain.append(visited == key ? u"(" : u"").append(visited).append(u"->");
     }
-    throw CyclicReferenceException(chain + key + u")");
+    throw CyclicReferenceException(chain.append(key) + u")");
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Compiling

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <boost/shared_ptr.hpp>
-#include <string>
+#include <string_view>
 #include <unordered_set>
 #include <vector>
 
@@ -18,40 +18,40 @@ public:
     ResourceCompiler(const ResourceCompiler&) = delete;
     ResourceCompiler& operator=(const ResourceCompiler&) = delete;
 
-    /// Rewrites the values of the dictionary in place. A value that is compiled already is not
-    /// written to, so that to compile a dictionary again only reads it.
+    /// Rewrites the values of the dictionary that are not compiled yet. To compile a dictionary again
+    /// writes nothing.
     /// @throws CyclicReferenceException; KeyNotFoundException; ExpansionLimitException; what the
     ///         parent throws. Values that were not finished keep their operands.
     void Compile(boost::shared_ptr<Model::ResourceDictionary> resourceDictionary);
 
     /// For a child compiler, once `Compile` has run.
-    void GetExpression(const std::u16string& key, std::vector<Model::Operand>& operands) override;
+    void GetExpression(std::u16string_view key, Model::Value& operands) override;
 
 private:
-    using Entry = Model::ResourceDictionary::value_type;
+    using Position = Model::ResourceDictionary::Position;
 
     /// An entry whose compilation is in progress.
     struct Visit {
-        Entry* entry;
-        std::size_t nextOperand = 0;
-        std::vector<Model::Operand> output{};
+        Position entry;
+        std::size_t done = 0;  // units of the value's code
+        Model::Value output{};
         std::size_t outputSize = 0;
     };
 
-    void CompileKey(Entry& entry);
-    void Begin(Entry& entry);
+    void CompileKey(std::u16string_view key);
+    void Begin(Position entry);
     void Step();
     void Finish();
-    void AppendReferenced(const std::u16string& key);
-    void Append(const Model::Operand& operand);
-    void AppendAll(const std::vector<Model::Operand>& operands);
-    [[noreturn]] void ThrowCycle(const std::u16string& key) const;
+    bool AppendReferenced(std::u16string_view key);
+    void Append(const Model::OperandView& operand);
+    void AppendAll(Model::ValueView value);
+    [[noreturn]] void ThrowCycle(std::u16string_view key) const;
 
     boost::shared_ptr<IExpressionProvider> parent_;
     boost::shared_ptr<Model::ResourceDictionary> dictionary_;
     // A stack of its own, not the thread's: chains of references may be as long as the dictionary.
     std::vector<Visit> visits_;
-    std::unordered_set<const Entry*> visiting_;
+    std::unordered_set<Position> visiting_;
     std::size_t expandedSize_ = 0;  // of all values that were rewritten
 };
 

@@ -4,8 +4,7 @@
 
 namespace LocalizationManager::StringLocalizing::Compiling {
 
-void RootExpressionProvider::GetExpression(const std::u16string& key,
-                                           std::vector<Model::Operand>& /*operands*/) {
+void RootExpressionProvider::GetExpression(std::u16string_view key, Model::Value& /*operands*/) {
     throw Model::KeyNotFoundException(key);
 }
 

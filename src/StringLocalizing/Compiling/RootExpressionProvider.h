@@ -7,7 +7,7 @@ namespace LocalizationManager::StringLocalizing::Compiling {
 
 class RootExpressionProvider : public IExpressionProvider {
 public:
-    void GetExpression(const std::u16string& key, std::vector<Model::Operand>& operands) override;
+    void GetExpression(std::u16string_view key, Model::Value& operands) override;
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Compiling

@@ -1,15 +1,14 @@
 // A plural form invocation: one of several values, chosen by a number.
 #pragma once
 
-#include <boost/ptr_container/ptr_vector.hpp>
 #include <string>
+#include <vector>
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-struct Value;
+class Value;
 
-/// Owns its forms one by one, because they are values and may hold plural forms themselves. Copying
-/// clones every form.
+/// Owns its forms, which are values and may hold plural forms themselves. Copying copies them all.
 struct PluralForm {
     PluralForm();
     PluralForm(const PluralForm& other);
@@ -18,8 +17,8 @@ struct PluralForm {
     PluralForm& operator=(PluralForm&& other) noexcept;
     ~PluralForm();
 
-    std::u16string paramName;        // the parameter that holds the number; without the "$"
-    boost::ptr_vector<Value> forms;  // form i is the text when entry i of the plural rule holds
+    std::u16string paramName;  // the parameter that holds the number; without the "$"
+    std::vector<Value> forms;  // form i is the text when entry i of the plural rule holds
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Model

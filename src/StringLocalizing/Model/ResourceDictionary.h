@@ -1,14 +1,80 @@
 // A parsed localisation source.
 #pragma once
 
-#include <map>
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <string_view>
 
+#include "KeyIndex.h"
 #include "Value.h"
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-/// From lower-cased key to value, ordered by UTF-16 unit. Held by shared pointer.
-using ResourceDictionary = std::map<std::u16string, Value>;
+/// From lower-cased key to value. Keys and values stand side by side, in the order of the source, in
+/// one text; a value that is replaced leaves its place unused. Held by shared pointer; may be read
+/// from any number of threads. Views that it gives hold until it is written to.
+class ResourceDictionary {
+public:
+    using Position = KeyIndex::Position;
+
+    struct Entry {
+        std::u16string_view key;
+        ValueView value;
+    };
+
+    ResourceDictionary() = default;
+    ResourceDictionary(const ResourceDictionary&) = delete;
+    ResourceDictionary(ResourceDictionary&&) = default;
+    ResourceDictionary& operator=(const ResourceDictionary&) = delete;
+    ResourceDictionary& operator=(ResourceDictionary&&) = default;
+    ~ResourceDictionary() = default;
+
+    /// Makes room for the entries of a source of so many units, which take about as many here.
+    void Reserve(std::size_t sourceSize) { entries_.reserve(entries_.size() + sourceSize); }
+
+    /// Adds an entry, unless the key has one.
+    /// @return whether it was added.
+    bool Add(std::u16string_view key, const Value& value);
+
+    /// Where the entry of a key stands; empty when there is none.
+    std::optional<Position> Find(std::u16string_view key) const;
+
+    /// The entry that was found.
+    Entry At(Position position) const noexcept;
+
+    /// Replaces the value of a key that is there.
+    void Replace(std::u16string_view key, const Value& value);
+
+    bool empty() const noexcept { return entries_.empty(); }
+
+    /// Whether all values are compiled; what is added later is not.
+    bool IsCompiled() const noexcept { return isCompiled_; }
+    void SetCompiled() noexcept { isCompiled_ = true; }
+
+    /// Calls `visit` with the position of each entry. It must not write to the dictionary.
+    template <class Visit>
+    void ForEach(Visit visit) const {
+        for (std::u16string_view rest = entries_; !rest.empty();) {
+            const auto position = static_cast<Position>(entries_.size() - rest.size());
+            const std::u16string_view key = TakeText(rest);
+            TakeText(rest);
+            if (!hasReplaced_ || Find(key) == position) {
+                visit(position);
+            }
+        }
+    }
+
+private:
+    const Position* Lookup(std::u16string_view key, KeyIndex::Hash hash) const;
+
+    /// @return where the entry stands.
+    Position Write(std::u16string_view key, const Value& value);
+
+    std::u16string entries_;
+    KeyIndex index_;
+    bool isCompiled_ = false;
+    bool hasReplaced_ = false;  // a key then may stand at several places
+};
 
 }  // namespace LocalizationManager::StringLocalizing::Model

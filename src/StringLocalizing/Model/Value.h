@@ -1,15 +1,35 @@
 // The right-hand side of a key, or one form of a plural form invocation.
 #pragma once
 
-#include <vector>
+#include <cstddef>
+#include <string>
+#include <string_view>
 
 #include "Operand.h"
+#include "ValueView.h"
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-/// Its final text is the concatenation of its resolved operands.
-struct Value {
-    std::vector<Operand> operands;
+/// A sequence of operands; the final text is the concatenation of the resolved ones. It keeps them
+/// in one text: of each its kind and its text or name, and of a plural form its values.
+class Value {
+public:
+    Value() = default;
+
+    /// A copy.
+    explicit Value(ValueView view);
+
+    ValueView view() const noexcept { return ValueView(code_); }
+
+    void Append(const Operand& operand);
+    void Append(const OperandView& operand);  // of another value
+
+    /// Appends an operand of another value; a text is joined to a text before it.
+    void Join(const OperandView& operand);
+
+private:
+    std::u16string code_;
+    std::size_t last_ = 0;  // where the last operand begins
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Model

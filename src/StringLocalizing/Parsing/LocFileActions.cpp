@@ -1,26 +1,25 @@
 #include "LocFileActions.h"
 
-#include <memory>
-
 #include "DuplicateKeyException.h"
-#include "LowerCase.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-void AddEntry(Model::ResourceDictionary& dictionary, KeyValueEntry& entry) {
-    const auto [position, isNew] =
-        dictionary.try_emplace(Text::LowerCase(std::move(entry.first)), std::move(entry.second));
-    if (!isNew) {
-        throw DuplicateKeyException(position->first);
+void AddEntry(Model::ResourceDictionary& dictionary, KeyValueEntry& entry,
+              const Text::LowerCaseMapping& lowerCase) {
+    lowerCase.Map(entry.first, entry.first.data());
+    if (!dictionary.Add(entry.first, entry.second)) {
+        throw DuplicateKeyException(entry.first);
     }
 }
 
 void AddOperand(Model::Value& value, Model::Operand& operand) {
-    value.operands.push_back(std::move(operand));
+    value.Append(operand);
 }
 
-void SetKeyRef(Model::KeyRef& keyRef, std::u16string& name) {
-    keyRef.key = Text::LowerCase(std::move(name));
+void SetKeyRef(Model::KeyRef& keyRef, std::u16string& name,
+               const Text::LowerCaseMapping& lowerCase) {
+    lowerCase.Map(name, name.data());
+    keyRef.key = std::move(name);
 }
 
 void SetName(Model::Param& param, std::u16string& name) {
@@ -32,7 +31,7 @@ void SetName(Model::PluralForm& pluralForm, std::u16string& name) {
 }
 
 void AddForm(Model::PluralForm& pluralForm, Model::Value& value) {
-    pluralForm.forms.push_back(std::make_unique<Model::Value>(std::move(value)));
+    pluralForm.forms.push_back(std::move(value));
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "LowerCaseMapping.h"
 #include "ResourceDictionary.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
@@ -13,11 +14,13 @@ namespace LocalizationManager::StringLocalizing::Parsing {
 using KeyValueEntry = std::pair<std::u16string, Model::Value>;
 
 /// @throws DuplicateKeyException when the dictionary holds the key in any letter case.
-void AddEntry(Model::ResourceDictionary& dictionary, KeyValueEntry& entry);
+void AddEntry(Model::ResourceDictionary& dictionary, KeyValueEntry& entry,
+              const Text::LowerCaseMapping& lowerCase);
 
 void AddOperand(Model::Value& value, Model::Operand& operand);
 
-void SetKeyRef(Model::KeyRef& keyRef, std::u16string& name);
+void SetKeyRef(Model::KeyRef& keyRef, std::u16string& name,
+               const Text::LowerCaseMapping& lowerCase);
 
 void SetName(Model::Param& param, std::u16string& name);
 void SetName(Model::PluralForm& pluralForm, std::u16string& name);

@@ -43,6 +43,7 @@ private:
     Rule<Model::KeyRef()> keyRef_{"keyRef_"s};
     Rule<Model::PluralForm()> pluralForm_{"pluralForm_"s};
     boost::spirit::qi::symbols<char16_t, char16_t> escapes_;
+    Text::LowerCaseMapping lowerCase_;
     NestingGuard nesting_{"plural forms"};
 };
 
@@ -56,11 +57,15 @@ inline LocFileGrammar::LocFileGrammar() : base_type(resourceDictionary_, "resour
 
 inline void LocFileGrammar::DefineEntries() {
     using boost::phoenix::bind;
+    using boost::phoenix::cref;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::char_;
     using boost::spirit::standard_wide::space;
 
-    resourceDictionary_ = skip(space | comment_)[*keyValueEntry_[bind(&AddEntry, _val, _1)] > eoi];
+    resourceDictionary_ = skip(
+        space |
+        comment_)[*keyValueEntry_[boost::phoenix::bind(&AddEntry, _val, _1, cref(lowerCase_))] >
+                  eoi];
     comment_ = L';' >> *(char_ - eol);
     keyValueEntry_ = skip(space)[key_ > L'=' > expression_];
     key_ = raw[char_(L"a-zA-Z_") >> *char_(L"a-zA-Z_0-9.")];
@@ -69,6 +74,7 @@ inline void LocFileGrammar::DefineEntries() {
 
 inline void LocFileGrammar::DefineOperands() {
     using boost::phoenix::bind;
+    using boost::phoenix::cref;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::char_;
     using boost::spirit::standard_wide::space;
@@ -87,7 +93,7 @@ inline void LocFileGrammar::DefineOperands() {
     string_ =
         (L'\'' >> *(raw[+(char_ - (lit(L'\'') | L'\\'))][append(_val, _1)] |
                     escapes_[appendUnit(_val, _1)] | lit(L'\\')[appendUnit(_val, u'\\')])) > L'\'';
-    keyRef_ = key_[bind(&SetKeyRef, _val, _1)];
+    keyRef_ = key_[boost::phoenix::bind(&SetKeyRef, _val, _1, cref(lowerCase_))];
     paramName_ = L'$' > key_;
     param_ = skip(space)[paramName_[setName(_val, _1)] >> !lit(L':')];
     // All recursion of the grammar goes through this rule.

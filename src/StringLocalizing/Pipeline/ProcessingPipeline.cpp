@@ -48,12 +48,12 @@ ProcessingPipeline::ProcessingPipeline(
         paramResolver_, ruleId, LoadPluralRules(*resourceProvider, ruleId));
 }
 
-std::u16string ProcessingPipeline::GetString(const std::u16string& key,
-                                             IResolveListener* listener) {
+Resolving::ResolvedText ProcessingPipeline::GetString(std::u16string_view key,
+                                                      IResolveListener* listener) {
     return stringProvider_->GetString(key, listener);
 }
 
-bool ProcessingPipeline::HasString(const std::u16string& key) {
+bool ProcessingPipeline::HasString(std::u16string_view key) {
     return stringProvider_->HasString(key);
 }
 

@@ -19,9 +19,9 @@ public:
     ProcessingPipeline(const ProcessingPipeline&) = delete;
     ProcessingPipeline& operator=(const ProcessingPipeline&) = delete;
 
-    std::u16string GetString(const std::u16string& key,
-                             localization_manager::IResolveListener* listener) override;
-    bool HasString(const std::u16string& key) override;
+    Resolving::ResolvedText GetString(std::u16string_view key,
+                                      localization_manager::IResolveListener* listener) override;
+    bool HasString(std::u16string_view key) override;
 
 protected:
     using ResourceProviderPointer = boost::shared_ptr<IResourceProvider>;

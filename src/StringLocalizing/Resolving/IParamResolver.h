@@ -1,7 +1,7 @@
 // Gives the engine the texts of external parameters.
 #pragma once
 
-#include <string>
+#include "qor/basic_string_t.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
@@ -9,7 +9,7 @@ class IParamResolver {
 public:
     /// @param name  the parameter's name, letter case kept.
     /// @throws a standard exception when the parameter cannot be resolved.
-    virtual std::u16string Resolve(const std::u16string& name) = 0;
+    virtual qor::string16_t Resolve(const qor::string16_t& name) = 0;
 
     virtual ~IParamResolver() = default;
 };

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+
+#include "qor/basic_string_t.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
@@ -10,7 +11,7 @@ class IPluralResolver {
 public:
     /// @param paramName  the parameter that holds the number.
     /// @return the index of the form to use.
-    virtual std::uint16_t Resolve(const std::u16string& paramName) = 0;
+    virtual std::uint16_t Resolve(const qor::string16_t& paramName) = 0;
 
     /// The number of forms that the culture's rule has.
     virtual std::uint16_t GetFormCount() = 0;

@@ -1,8 +1,9 @@
 // Answers requests for keys.
 #pragma once
 
-#include <string>
+#include <string_view>
 
+#include "ResolvedText.h"
 #include "localization_manager/IResolveListener.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
@@ -13,10 +14,10 @@ public:
     /// The final text of a key.
     /// @param listener  may be null.
     /// @throws KeyNotFoundException; what resolving throws.
-    virtual std::u16string GetString(const std::u16string& key,
-                                     localization_manager::IResolveListener* listener) = 0;
+    virtual ResolvedText GetString(std::u16string_view key,
+                                   localization_manager::IResolveListener* listener) = 0;
 
-    virtual bool HasString(const std::u16string& key) = 0;
+    virtual bool HasString(std::u16string_view key) = 0;
 
     virtual ~IStringProvider() = default;
 };

@@ -2,8 +2,6 @@
 
 #include <boost/current_function.hpp>
 #include <boost/format.hpp>
-#include <boost/variant/apply_visitor.hpp>
-#include <boost/variant/static_visitor.hpp>
 #include <locale>
 #include <stdexcept>
 #include <utility>
@@ -19,60 +17,76 @@ namespace {
 
 using localization_manager::IResolveListener;
 using localization_manager::ResolveKind;
+using Model::OperandKind;
 
-void CheckFormCount(std::size_t expected, const Model::PluralForm& pluralForm) {
-    if (pluralForm.forms.size() != expected) {
+/// The form at an index, of as many as are expected.
+Model::ValueView FormOf(const Model::OperandView& pluralForm, std::size_t index,
+                        std::size_t expected) {
+    std::u16string_view form;
+    std::size_t count = 0;
+    for (std::u16string_view rest = pluralForm.forms; !rest.empty(); ++count) {
+        const std::u16string_view next = Model::TakeText(rest);
+        form = count == index ? next : form;
+    }
+    if (count != expected) {
         boost::format text(
             "Invalid plural form count (expected: %1%, got: %2%, discriminator: %3%)",
             std::locale::classic());
-        text % expected % pluralForm.forms.size() % Text::ToUtf8(pluralForm.paramName);
-        throw std::logic_error(text.str());
+        throw std::logic_error((text % expected % count % Text::ToUtf8(pluralForm.text)).str());
     }
+    return Model::ValueView(form);
 }
 
-/// Appends the text of each operand it visits.
-class OperandResolver : public boost::static_visitor<> {
+/// Appends the texts of operands.
+class OperandResolver {
 public:
     OperandResolver(IParamResolver& paramResolver, IPluralResolver& pluralResolver,
-                    IResolveListener* listener, std::u16string& output)
+                    IResolveListener* listener, ResolvedText& output)
         : paramResolver_(paramResolver),
           pluralResolver_(pluralResolver),
           listener_(listener),
           output_(output) {}
 
-    void ResolveAll(const Model::Value& value) {
-        for (const Model::Operand& operand : value.operands) {
-            boost::apply_visitor(*this, operand);
+    void ResolveAll(Model::ValueView value) {
+        for (const Model::OperandView& operand : value) {
+            switch (operand.kind) {
+                case OperandKind::Text:
+                    output_.AppendLasting(operand.text);
+                    break;
+                case OperandKind::KeyRef:
+                    throw std::logic_error("Key reference found (" + Text::ToUtf8(operand.text) +
+                                           "). Run compiler first");
+                case OperandKind::Param:
+                    ResolveParam(operand);
+                    break;
+                case OperandKind::PluralForm:
+                    ResolvePluralForm(operand);
+                    break;
+            }
         }
     }
 
-    void operator()(const std::u16string& text) { output_ += text; }
-
-    void operator()(const Model::KeyRef& ref) {
-        throw std::logic_error("Key reference found (" + Text::ToUtf8(ref.key) +
-                               "). Run compiler first");
-    }
-
-    void operator()(const Model::Param& param) {
-        const std::u16string text = paramResolver_.Resolve(param.name);
-        Notify(listener_, ResolveKind::Param, {}, param.name, text);
-        output_ += text;
-    }
-
-    void operator()(const Model::PluralForm& pluralForm) {
-        const std::uint16_t index = pluralResolver_.Resolve(pluralForm.paramName);
-        CheckFormCount(pluralResolver_.GetFormCount(), pluralForm);
-        const std::size_t start = output_.size();
-        ResolveAll(pluralForm.forms[index]);
-        Notify(listener_, ResolveKind::PluralForm, {}, pluralForm.paramName,
-               std::u16string_view(output_).substr(start));
-    }
-
 private:
+    void ResolveParam(const Model::OperandView& param) {
+        const qor::string16_t name(param.text);
+        const qor::string16_t text = paramResolver_.Resolve(name);
+        Notify(listener_, ResolveKind::Param, {}, param.text, text.view());
+        output_.Append(text.view());
+    }
+
+    void ResolvePluralForm(const Model::OperandView& pluralForm) {
+        const std::uint16_t index = pluralResolver_.Resolve(qor::string16_t(pluralForm.text));
+        const Model::ValueView form = FormOf(pluralForm, index, pluralResolver_.GetFormCount());
+        const std::size_t start = output_.size();
+        ResolveAll(form);
+        Notify(listener_, ResolveKind::PluralForm, {}, pluralForm.text,
+               output_.view().substr(start));
+    }
+
     IParamResolver& paramResolver_;
     IPluralResolver& pluralResolver_;
     IResolveListener* listener_;
-    std::u16string& output_;
+    ResolvedText& output_;
 };
 
 }  // namespace
@@ -86,9 +100,9 @@ KeyResolver::KeyResolver(boost::shared_ptr<IParamResolver> paramResolver,
                                    {"pluralResolver", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
 }
 
-std::u16string KeyResolver::Resolve(const Model::Value& value, IResolveListener* listener) {
+ResolvedText KeyResolver::Resolve(Model::ValueView value, IResolveListener* listener) {
     const qor::objptr_t<IResolveListener> held(listener);
-    std::u16string output;
+    ResolvedText output;
     OperandResolver(*paramResolver_, *pluralResolver_, listener, output).ResolveAll(value);
     return output;
 }

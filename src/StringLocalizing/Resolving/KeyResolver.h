@@ -18,8 +18,8 @@ public:
 
     /// @throws std::logic_error for a key reference that was not compiled away, and for a plural
     ///         form with another number of forms than the culture's rule; what the resolvers throw.
-    std::u16string Resolve(const Model::Value& value,
-                           localization_manager::IResolveListener* listener) override;
+    ResolvedText Resolve(Model::ValueView value,
+                         localization_manager::IResolveListener* listener) override;
 
 private:
     boost::shared_ptr<IParamResolver> paramResolver_;

@@ -17,7 +17,7 @@ namespace {
 
 /// A decimal integer and nothing else. What `boost::lexical_cast` accepts in the classic locale; it
 /// is not used itself because the process's global locale would change what it takes for a number.
-std::int64_t ParseNumber(const std::u16string& text) {
+std::int64_t ParseNumber(std::u16string_view text) {
     // Units beyond ASCII become a character that no number holds.
     std::string digits;
     for (const char16_t unit : text) {
@@ -48,11 +48,18 @@ PluralResolver::PluralResolver(boost::shared_ptr<IParamResolver> paramResolver,
                                    {"paramResolver", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
     code_contracts::RequireNotNull(pluralFormRules_,
                                    {"pluralFormRules", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
+    try {
+        rule_ = pluralFormRules_->GetRule(ruleId_);
+    } catch (
+        const std::exception&) {  // a fault of the requests that need the rule, not of this one
+    }
 }
 
-std::uint16_t PluralResolver::Resolve(const std::u16string& paramName) {
-    const std::int64_t number = ParseNumber(paramResolver_->Resolve(paramName));
-    const Model::PluralFormRule rule = pluralFormRules_->GetRule(ruleId_);
+std::uint16_t PluralResolver::Resolve(const qor::string16_t& paramName) {
+    const std::int64_t number = ParseNumber(paramResolver_->Resolve(paramName).view());
+    const Model::PluralFormRule fetched =
+        rule_ ? Model::PluralFormRule() : pluralFormRules_->GetRule(ruleId_);
+    const Model::PluralFormRule& rule = rule_ ? *rule_ : fetched;
     const auto entry = std::find_if(rule.begin(), rule.end(),
                                     [number](const auto& condition) { return condition(number); });
     if (entry != rule.end()) {
@@ -64,7 +71,8 @@ std::uint16_t PluralResolver::Resolve(const std::u16string& paramName) {
 }
 
 std::uint16_t PluralResolver::GetFormCount() {
-    return pluralFormRules_->GetEntryCount(ruleId_);
+    return rule_ ? static_cast<std::uint16_t>(rule_->size())
+                 : pluralFormRules_->GetEntryCount(ruleId_);
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

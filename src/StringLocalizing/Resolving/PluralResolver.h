@@ -2,6 +2,7 @@
 #pragma once
 
 #include <boost/shared_ptr.hpp>
+#include <optional>
 
 #include "IParamResolver.h"
 #include "IPluralFormRules.h"
@@ -20,13 +21,14 @@ public:
     /// @throws boost::bad_lexical_cast when the parameter's text is no 64-bit integer;
     ///         std::logic_error when no entry of the rule holds for it; what the parameter resolver
     ///         and the rules throw.
-    std::uint16_t Resolve(const std::u16string& paramName) override;
+    std::uint16_t Resolve(const qor::string16_t& paramName) override;
     std::uint16_t GetFormCount() override;
 
 private:
     boost::shared_ptr<IParamResolver> paramResolver_;
     Model::PluralFormRuleId ruleId_;
     boost::shared_ptr<Model::IPluralFormRules> pluralFormRules_;
+    std::optional<Model::PluralFormRule> rule_;  // empty when it cannot be fetched
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

@@ -4,12 +4,12 @@
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
-std::u16string RootStringProvider::GetFallbackString(
-    const std::u16string& key, localization_manager::IResolveListener* /*listener*/) {
+ResolvedText RootStringProvider::GetFallbackString(
+    std::u16string_view key, localization_manager::IResolveListener* /*listener*/) {
     throw Model::KeyNotFoundException(key);
 }
 
-bool RootStringProvider::HasFallbackString(const std::u16string& /*key*/) {
+bool RootStringProvider::HasFallbackString(std::u16string_view /*key*/) {
     return false;
 }
 

@@ -10,9 +10,9 @@ public:
     using StringProviderBase::StringProviderBase;
 
 protected:
-    std::u16string GetFallbackString(const std::u16string& key,
-                                     localization_manager::IResolveListener* listener) override;
-    bool HasFallbackString(const std::u16string& key) override;
+    ResolvedText GetFallbackString(std::u16string_view key,
+                                   localization_manager::IResolveListener* listener) override;
+    bool HasFallbackString(std::u16string_view key) override;
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

@@ -18,12 +18,12 @@ StringProvider::StringProvider(
         {"parentStringProvider", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
 }
 
-std::u16string StringProvider::GetFallbackString(const std::u16string& key,
-                                                 localization_manager::IResolveListener* listener) {
+ResolvedText StringProvider::GetFallbackString(std::u16string_view key,
+                                               localization_manager::IResolveListener* listener) {
     return parentStringProvider_->GetString(key, listener);
 }
 
-bool StringProvider::HasFallbackString(const std::u16string& key) {
+bool StringProvider::HasFallbackString(std::u16string_view key) {
     return parentStringProvider_->HasString(key);
 }
 

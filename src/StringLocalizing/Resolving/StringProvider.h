@@ -13,9 +13,9 @@ public:
                    const std::u16string& name);
 
 protected:
-    std::u16string GetFallbackString(const std::u16string& key,
-                                     localization_manager::IResolveListener* listener) override;
-    bool HasFallbackString(const std::u16string& key) override;
+    ResolvedText GetFallbackString(std::u16string_view key,
+                                   localization_manager::IResolveListener* listener) override;
+    bool HasFallbackString(std::u16string_view key) override;
 
 private:
     boost::shared_ptr<IStringProvider> parentStringProvider_;

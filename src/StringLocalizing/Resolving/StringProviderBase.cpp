@@ -3,7 +3,6 @@
 #include <boost/current_function.hpp>
 #include <utility>
 
-#include "LowerCase.h"
 #include "Notify.h"
 #include "qor/rtl/contracts/checks.h"
 
@@ -22,20 +21,31 @@ StringProviderBase::StringProviderBase(
         resourceDictionary_, {"resourceDictionary", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
 }
 
-std::u16string StringProviderBase::GetString(const std::u16string& key,
-                                             localization_manager::IResolveListener* listener) {
-    const std::u16string lowerKey = Text::LowerCase(key);
-    const auto found = resourceDictionary_->find(lowerKey);
-    if (found == resourceDictionary_->end()) {
-        return GetFallbackString(lowerKey, listener);
-    }
-    std::u16string text = keyResolver_->Resolve(found->second, listener);
-    Notify(listener, localization_manager::ResolveKind::Key, name_, key, text);
+ResolvedText StringProviderBase::GetString(std::u16string_view key,
+                                           localization_manager::IResolveListener* listener) {
+    const LowerKey buffer = ToLowerCase(key);
+    const std::u16string_view lowerKey(buffer.data(), buffer.size());
+    const auto found = resourceDictionary_->Find(lowerKey);
+    return found ? Resolve(resourceDictionary_->At(*found).value, key, listener)
+                 : GetFallbackString(lowerKey, listener);
+}
+
+ResolvedText StringProviderBase::Resolve(Model::ValueView value, std::u16string_view key,
+                                         localization_manager::IResolveListener* listener) const {
+    ResolvedText text = keyResolver_->Resolve(value, listener);
+    Notify(listener, localization_manager::ResolveKind::Key, name_, key, text.view());
     return text;
 }
 
-bool StringProviderBase::HasString(const std::u16string& key) {
-    return resourceDictionary_->count(Text::LowerCase(key)) != 0 || HasFallbackString(key);
+bool StringProviderBase::HasString(std::u16string_view key) {
+    const LowerKey buffer = ToLowerCase(key);
+    return resourceDictionary_->Find({buffer.data(), buffer.size()}) || HasFallbackString(key);
+}
+
+StringProviderBase::LowerKey StringProviderBase::ToLowerCase(std::u16string_view key) const {
+    LowerKey lower(key.size(), boost::container::default_init);
+    lowerCase_.Map(key, lower.data());
+    return lower;
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

@@ -1,10 +1,13 @@
 // Serves the texts of one compiled dictionary; the derived class says what happens on a miss.
 #pragma once
 
+#include <boost/container/small_vector.hpp>
 #include <boost/shared_ptr.hpp>
+#include <string>
 
 #include "IKeyResolver.h"
 #include "IStringProvider.h"
+#include "LowerCaseMapping.h"
 #include "ResourceDictionary.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
@@ -19,22 +22,33 @@ public:
     StringProviderBase(const StringProviderBase&) = delete;
     StringProviderBase& operator=(const StringProviderBase&) = delete;
 
-    std::u16string GetString(const std::u16string& key,
-                             localization_manager::IResolveListener* listener) override;
-    bool HasString(const std::u16string& key) override;
+    ResolvedText GetString(std::u16string_view key,
+                           localization_manager::IResolveListener* listener) override;
+    bool HasString(std::u16string_view key) override;
 
 protected:
     /// @param key  lower-cased.
-    virtual std::u16string GetFallbackString(const std::u16string& key,
-                                             localization_manager::IResolveListener* listener) = 0;
+    virtual ResolvedText GetFallbackString(std::u16string_view key,
+                                           localization_manager::IResolveListener* listener) = 0;
 
     /// @param key  as the caller passed it.
-    virtual bool HasFallbackString(const std::u16string& key) = 0;
+    virtual bool HasFallbackString(std::u16string_view key) = 0;
 
 private:
+    using LowerKey = boost::container::small_vector<char16_t, 64>;
+
+    /// @param key  as the caller passed it.
+    ResolvedText Resolve(Model::ValueView value, std::u16string_view key,
+                         localization_manager::IResolveListener* listener) const;
+
+    /// The lower-cased key.
+    LowerKey ToLowerCase(std::u16string_view key) const;
+
     boost::shared_ptr<IKeyResolver> keyResolver_;
     boost::shared_ptr<const Model::ResourceDictionary> resourceDictionary_;
     std::u16string name_;
+    Text::LowerCaseMapping
+        lowerCase_;  // fetching it for each request would cost more than the lookup
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

@@ -1,0 +1,11 @@
+// The kinds of operands.
+#pragma once
+
+#include <cstdint>
+
+namespace LocalizationManager::StringLocalizing::Model {
+
+/// In the order of the alternatives of `Operand`.
+enum class OperandKind : std::uint8_t { Text, KeyRef, Param, PluralForm };
+
+}  // namespace LocalizationManager::StringLocalizing::Model

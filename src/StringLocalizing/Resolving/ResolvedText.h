@@ -1,0 +1,44 @@
+// The text that resolving makes.
+#pragma once
+
+#include <boost/container/small_vector.hpp>
+#include <cstddef>
+#include <string_view>
+
+namespace LocalizationManager::StringLocalizing::Resolving {
+
+/// Texts that are appended. One that is alone is not copied, and most others need no allocation.
+class ResolvedText {
+public:
+    /// @param text  lives longer than this object.
+    void AppendLasting(std::u16string_view text) {
+        if (size() == 0) {
+            lasting_ = text;
+        } else {
+            Append(text);
+        }
+    }
+
+    void Append(std::u16string_view text) {
+        if (!lasting_.empty()) {
+            Copy(lasting_);
+            lasting_ = {};
+        }
+        Copy(text);
+    }
+
+    std::size_t size() const noexcept { return view().size(); }
+    std::u16string_view view() const noexcept {
+        return units_.empty() ? lasting_ : std::u16string_view(units_.data(), units_.size());
+    }
+
+private:
+    void Copy(std::u16string_view text) {
+        units_.insert(units_.end(), text.data(), text.data() + text.size());
+    }
+
+    std::u16string_view lasting_;  // while it is all
+    boost::container::small_vector<char16_t, 256> units_;
+};
+
+}  // namespace LocalizationManager::StringLocalizing::Resolving
