@@ -1,0 +1,221 @@
+#!/usr/bin/env python3
+"""Turns the results of lm_bench into ratios: prints those with goals, writes performance.md and .svg.
+
+    report.py DIRECTORY RESULTS.json...
+"""
+import datetime
+import json
+import os
+import sys
+from pathlib import Path
+
+SIZES = ("300", "30000", "300000")
+MIDDLE = SIZES[1]
+KINDS = {"plain": "plain text", "parameter": "one parameter", "plural": "plural with number"}
+PEERS = ("gettext", "ICU", "ICU, patterns parsed before", "Boost.Locale")
+WIDE = "Boost.Locale, wide texts"
+DONE = {"plain": ("gettext", "ICU", "Boost.Locale"), "parameter": ("gettext", "ICU"), "plural": ("gettext", "ICU")}
+
+
+class Results:
+    """Medians over the repetitions, by the name of the benchmark."""
+
+    def __init__(self, paths):
+        runs = [run for path in paths for run in json.loads(path.read_text())["benchmarks"]]
+        self.repetitions = max(run["repetitions"] for run in runs)
+        self.medians = {run["run_name"]: run for run in runs if run.get("aggregate_name") == "median"}
+
+    def time(self, *name):
+        """Processor time, which other programs on the machine disturb least; None if not measured."""
+        run = self.medians.get("/".join(name))
+        nanoseconds = {"ns": 1, "us": 1e3, "ms": 1e6}
+        return run and run["cpu_time"] * nanoseconds[run["time_unit"]]
+
+    def request(self, kind, system, size=MIDDLE):
+        return self.time("request", kind, system, size)
+
+    def growth(self, kind, system):
+        return self.request(kind, system, SIZES[-1]) / self.request(kind, system, SIZES[0])
+
+    def memory(self, system, counter):
+        return self.medians[f"memory/{system}/{MIDDLE}/iterations:1"][counter]
+
+    def speedup(self, system):
+        one, two = (self.medians[f"threads/{system}/{MIDDLE}/real_time/threads:{n}"]["items_per_second"] for n in (1, 2))
+        return two / one
+
+
+def fastest(results, kind):
+    return min(DONE[kind], key=lambda peer: results.request(kind, peer))
+
+
+def goals(results):
+    """Rows of: what, the figure, the limit, whether the figure keeps it."""
+
+    def at_most(what, figure, limit):
+        return what, figure, f"≤ {limit:.2f}", figure <= limit
+
+    def times(kind, peer, limit):
+        return at_most(f"{KINDS[kind]}, time against {peer}", against(results, kind, peer, MIDDLE), limit)
+
+    rows = [max((times("plain", peer, 0.6) for peer in DONE["plain"]), key=lambda row: row[1]),
+            times("parameter", "gettext", 0.5), times("plural", "gettext", 0.5), times("plural", "ICU", 0.1)]
+    for kind, text in KINDS.items():
+        peer = fastest(results, kind)
+        rows.append(at_most(f"{text}, growth of time from 300 to 300,000 messages, against that of {peer}",
+                            results.growth(kind, "module"), results.growth(kind, peer)))
+    start = results.time("start", "module", MIDDLE)
+    rows.append(at_most(f"start from source, time against the load of {WIDE}",
+                        start / results.time("start", WIDE, MIDDLE), 0.6))
+    second = results.time("second", SIZES[-1]) - results.time("second", SIZES[0])
+    rows.append(at_most("second localizer, growth of time with 300,000 common texts, in passes of reading them",
+                        second / results.time("reading", SIZES[-1]), 1))
+    rows.append(at_most("memory held, in sizes of the source file", results.memory("module", "held_per_file"), 3))
+    speedup = results.speedup("module")
+    rows.append(("requests per second of two threads, against one", speedup, "≥ 1.90", speedup >= 1.9))
+    return rows
+
+
+def table(header, rows):
+    lines = [header, ["---"] + ["---:"] * (len(header) - 1), *rows]
+    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
+
+
+def ratio_text(ratio):
+    return "" if ratio is None else f"{ratio:.2f}" if ratio < 10 else f"{ratio:.0f}"
+
+
+def against(results, kind, peer, size):
+    time = results.request(kind, peer, size)
+    return time and results.request(kind, "module", size) / time
+
+
+def markdown(results):
+    cpu = next(line.split(":")[1].strip() for line in Path("/proc/cpuinfo").read_text().splitlines()
+               if line.startswith("model name"))
+    goal_rows = [[what, ratio_text(figure), limit, "met" if met else "**not met**"]
+                 for what, figure, limit, met in goals(results)]
+    request_rows = [[f"{text}, {peer}"] + [ratio_text(against(results, kind, peer, size)) for size in SIZES]
+                    for kind, text in KINDS.items() for peer in PEERS if results.request(kind, peer)]
+    growth_rows = [[system] + [ratio_text(results.growth(kind, system)) for kind in KINDS]
+                   for system in ("module", "gettext", "ICU", "Boost.Locale")]
+    stage_rows = [[stage, f"{results.medians[f'stage/{stage}/{MIDDLE}']['bytes_per_second'] / 1e6:,.0f}"]
+                  for stage in ("reading and decoding", "parsing", "compiling")]
+    second_rows = [[f"{int(size):,}", ratio_text(results.time("second", size) / results.time("reading", SIZES[-1]))]
+                   for size in SIZES]
+    memory_rows = [[system, f"{results.memory(system, 'held_per_message'):,.0f}"] +
+                   [ratio_text(results.memory(system, counter)) for counter in ("held_per_file", "peak_per_file")]
+                   for system in ("module", "gettext", "ICU", "Boost.Locale", WIDE)]
+    thread_rows = [[system, ratio_text(results.speedup(system))]
+                   for system in ("module", "gettext", "ICU", "Boost.Locale")]
+    return f"""# Performance
+
+What a host waits for, beside the systems that it would use instead. `scripts/bench` measures all of it by one
+program and writes this page. Times do not carry over between machines, so most figures are ratios;
+below 1 the module is faster.
+
+Measured on {datetime.date.today()}, {cpu}, {os.cpu_count()} cores.
+
+![The module's time as a share of each peer's](performance.svg)
+
+## Goals
+
+{table(["measure", "figure", "goal", ""], goal_rows)}
+
+## Requests: the module's time as a share of a peer's
+
+{table(["text, peer"] + [f"{int(size):,} messages" for size in SIZES], request_rows)}
+
+Boost.Locale translates only; the others put the parameter or the number in.
+
+## Growth: time with 300,000 messages over time with 300
+
+{table(["system", *KINDS.values()], growth_rows)}
+
+## Stages of the start, 30,000 messages
+
+{table(["stage", "MB of source per second"], stage_rows)}
+
+## A second localizer of a culture, in passes of reading 300,000 common texts
+
+{table(["common texts", "time"], second_rows)}
+
+## Memory, 30,000 messages
+
+{table(["system", "bytes held per message", "held, in sizes of its file", "peak of the start, in sizes of its file"],
+       memory_rows)}
+
+## Two threads over one: requests per second, all kinds of texts
+
+{table(["system", "ratio"], thread_rows)}
+
+## Method
+
+- Workload: Russian texts, made by `benchmarks/Workload.cpp`; a third plain, a third with one parameter, a third
+  with a plural of three forms and its number. Keys are asked for in random order, each once before any comes
+  again; parameters and numbers vary.
+- Every system answers the whole sequence of requests first, and each answer is compared with the text that the
+  workload expects; one wrong answer ends the run. A caller keeps a copy of each text in the type that it would
+  use: `string16_t` for the module, `std::string` for gettext (after `snprintf`) and Boost.Locale,
+  `icu::UnicodeString` for ICU (`ResourceBundle`, `MessageFormat`).
+- The module is loaded and asked through its exported interface. Only the stages are taken out of its layers.
+- Start: from the creation of a manager to the first text, file in the page cache; for Boost.Locale from the
+  generator to the first text. Its narrow texts stay in the compiled file as it was read; wide texts are converted
+  when it is loaded, as UTF-16 has to be.
+- A pass of reading: reads the common file from the page cache and looks at each byte once.
+- Memory: resident memory of a fresh process, mapped files included. Peak: from the start to the first answer.
+  Held: after every text was asked for once, and free heap was returned.
+- Each size of catalogues has a process of its own: gettext searches all texts that a process has used.
+- Figures are medians of {results.repetitions} repetitions of each measurement, run in random order. Times are
+  processor time; for two threads, time on the clock.
+
+## Repeat it
+
+```sh
+scripts/bench
+```
+"""
+
+
+def svg(results):
+    """Bars as long as the module's time is a share of the peer's."""
+    bars = [(f"{text}, {peer}", against(results, kind, peer, MIDDLE))
+            for kind, text in KINDS.items() for peer in PEERS if results.request(kind, peer)]
+    bars += [(f"start, {system}", results.time("start", "module", MIDDLE) / results.time("start", system, MIDDLE))
+             for system in (WIDE, "Boost.Locale")]
+    left, unit, row, longest = 330, 160, 24, 2.0
+    height = 56 + row * len(bars)
+    parts = []
+    for i, (label, ratio) in enumerate(bars):
+        y = 48 + row * i
+        length = unit * min(ratio, longest)
+        more = " →" if ratio > longest else ""
+        parts.append(f'<text x="{left - 10}" y="{y + 12}" text-anchor="end">{label}</text>'
+                     f'<rect class="{"slow" if ratio > 1 else "fast"}" x="{left}" y="{y}" width="{length:.1f}" '
+                     f'height="16" rx="2"/><text x="{left + length + 6:.1f}" y="{y + 12}">'
+                     f'{ratio_text(ratio)}{more}</text>')
+    return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 730 {height}" font-family="sans-serif" font-size="13">
+<style>
+text {{ fill: #24292f }} .fast {{ fill: #2f81b7 }} .slow {{ fill: #c9712b }} line {{ stroke: #57606a }}
+@media (prefers-color-scheme: dark) {{ text {{ fill: #e6edf3 }} line {{ stroke: #9ea7b3 }} }}
+</style>
+<text x="10" y="20" font-weight="bold">The module's time as a share of the peer's, 30,000 messages (shorter is faster)</text>
+<text x="{left + unit}" y="40" text-anchor="middle">1 = the peer</text>
+{chr(10).join(parts)}
+<line x1="{left + unit}" x2="{left + unit}" y1="44" y2="{height - 8}" stroke-dasharray="3 3"/>
+</svg>
+"""
+
+
+def main():
+    directory = Path(sys.argv[1])
+    results = Results([Path(name) for name in sys.argv[2:]])
+    rows = goals(results)
+    width = max(len(row[0]) for row in rows)
+    for what, figure, limit, met in rows:
+        print(f"{what:<{width}}  {ratio_text(figure):>6}  {limit:>8}  {'met' if met else 'NOT MET'}")
+    (directory / "performance.md").write_text(markdown(results))
+    (directory / "performance.svg").write_text(svg(results))
+
+
+main()
