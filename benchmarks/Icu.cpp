@@ -94,7 +94,9 @@ protected:
         const icu::Formattable argument =
             request.kind == Kind::Plural
                 ? icu::Formattable(request.number)
-                : icu::Formattable(icu::UnicodeString(request.parameter16.c_str()));
+                : icu::Formattable(
+                      icu::UnicodeString(false, request.parameter16.data(),
+                                         static_cast<std::int32_t>(request.parameter16.size())));
         icu::FieldPosition unused;
         kept.remove();
         format.format(&argument, 1, kept, unused, status);

@@ -67,6 +67,7 @@ void RegisterThreads(Catalogues& catalogues, const SystemType& type, std::size_t
                 AskAll(state, catalogues.Opened(type, size), requests, next);
             })
             ->Threads(threads)
+            ->MinTime(0.5)
             ->UseRealTime();
     }
 }
@@ -220,7 +221,7 @@ int MeasureMemory(const std::string& name, const std::string& size, const std::s
 }  // namespace
 
 int main(int argc, char** argv) try {
-    // What gettext needs to look for Russian texts; the host's locale for the others.
+    // In the locale "C", gettext would not look for Russian texts.
     if (setenv("LANGUAGE", "ru", 1) != 0 || std::setlocale(LC_ALL, "en_US.UTF-8") == nullptr) {
         throw std::runtime_error("there is no locale en_US.UTF-8");
     }

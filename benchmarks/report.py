@@ -14,6 +14,7 @@ MIDDLE = SIZES[1]
 KINDS = {"plain": "plain text", "parameter": "one parameter", "plural": "plural with number"}
 PEERS = ("gettext", "ICU", "ICU, patterns parsed before", "Boost.Locale")
 WIDE = "Boost.Locale, wide texts"
+# The systems that make the final text, for each kind.
 DONE = {"plain": ("gettext", "ICU", "Boost.Locale"), "parameter": ("gettext", "ICU"), "plural": ("gettext", "ICU")}
 
 
@@ -37,11 +38,14 @@ class Results:
     def growth(self, kind, system):
         return self.request(kind, system, SIZES[-1]) / self.request(kind, system, SIZES[0])
 
+    def added(self, kind, system):
+        return self.request(kind, system, SIZES[-1]) - self.request(kind, system, SIZES[0])
+
     def memory(self, system, counter):
         return self.medians[f"memory/{system}/{MIDDLE}/iterations:1"][counter]
 
     def speedup(self, system):
-        one, two = (self.medians[f"threads/{system}/{MIDDLE}/real_time/threads:{n}"]["items_per_second"] for n in (1, 2))
+        one, two = (self.medians[f"threads/{system}/{MIDDLE}/min_time:0.500/real_time/threads:{n}"]["items_per_second"] for n in (1, 2))
         return two / one
 
 
@@ -62,8 +66,8 @@ def goals(results):
             times("parameter", "gettext", 0.5), times("plural", "gettext", 0.5), times("plural", "ICU", 0.1)]
     for kind, text in KINDS.items():
         peer = fastest(results, kind)
-        rows.append(at_most(f"{text}, growth of time from 300 to 300,000 messages, against that of {peer}",
-                            results.growth(kind, "module"), results.growth(kind, peer)))
+        rows.append(at_most(f"{text}, time added from 300 to 300,000 messages, against {peer}",
+                            results.added(kind, "module") / results.added(kind, peer), 1))
     start = results.time("start", "module", MIDDLE)
     rows.append(at_most(f"start from source, time against the load of {WIDE}",
                         start / results.time("start", WIDE, MIDDLE), 0.6))
@@ -97,6 +101,8 @@ def markdown(results):
                  for what, figure, limit, met in goals(results)]
     request_rows = [[f"{text}, {peer}"] + [ratio_text(against(results, kind, peer, size)) for size in SIZES]
                     for kind, text in KINDS.items() for peer in PEERS if results.request(kind, peer)]
+    start = results.time("start", "module", MIDDLE)
+    start_rows = [[system, ratio_text(start / results.time("start", system, MIDDLE))] for system in (WIDE, "Boost.Locale")]
     growth_rows = [[system] + [ratio_text(results.growth(kind, system)) for kind in KINDS]
                    for system in ("module", "gettext", "ICU", "Boost.Locale")]
     stage_rows = [[stage, f"{results.medians[f'stage/{stage}/{MIDDLE}']['bytes_per_second'] / 1e6:,.0f}"]
@@ -112,7 +118,7 @@ def markdown(results):
 
 What a host waits for, beside the systems that it would use instead. `scripts/bench` measures all of it by one
 program and writes this page. Times do not carry over between machines, so most figures are ratios;
-below 1 the module is faster.
+below 1 the module is faster. Goals are what the module is meant to keep; one that is not met is work to do.
 
 Measured on {datetime.date.today()}, {cpu}, {os.cpu_count()} cores.
 
@@ -131,6 +137,13 @@ Boost.Locale translates only; the others put the parameter or the number in.
 ## Growth: time with 300,000 messages over time with 300
 
 {table(["system", *KINDS.values()], growth_rows)}
+
+## Start from source text, 30,000 messages: the module's time as a share
+
+{table(["against the load of", "share"], start_rows)}
+
+Boost.Locale with narrow texts reads its compiled file and uses it as it lies; gettext and ICU map theirs and read
+it at requests. No parser of source text is as fast as that.
 
 ## Stages of the start, 30,000 messages
 
@@ -166,6 +179,7 @@ Boost.Locale translates only; the others put the parameter or the number in.
 - Memory: resident memory of a fresh process, mapped files included. Peak: from the start to the first answer.
   Held: after every text was asked for once, and free heap was returned.
 - Each size of catalogues has a process of its own: gettext searches all texts that a process has used.
+- Growth is time added from 300 to 300,000 messages, of the module and of the peer that is fastest at 30,000.
 - Figures are medians of {results.repetitions} repetitions of each measurement, run in random order. Times are
   processor time; for two threads, time on the clock.
 

@@ -101,9 +101,7 @@ struct LanguageModel {
 
     Operands Form(const Model::OperandView& pluralForm) {
         std::vector<Model::ValueView> forms;
-        for (std::u16string_view rest = pluralForm.forms; !rest.empty();) {
-            forms.emplace_back(Model::TakeText(rest));
-        }
+        ForEachForm(pluralForm, [&](Model::ValueView form) { forms.push_back(form); });
         std::string digits;
         const qor::string16_t text = parameters.Resolve(qor::string16_t(pluralForm.text));
         for (const char16_t unit : text.view()) {

@@ -36,7 +36,10 @@ qor::result_t LocalizerBase::GetResolvedString(const qor::string16_t& key, qor::
         return qor::rcUnspecifiedError;
     }
     try {
-        result = provider->GetString(key.view(), listener).view();
+        // A listener hears the key last; the host may use its string for something else by then.
+        const std::u16string heard(listener != nullptr ? key.view() : std::u16string_view());
+        const std::u16string_view asked = listener != nullptr ? heard : key.view();
+        result = provider->GetString(asked, listener).view();
         return qor::rcOk;
     } catch (const std::exception& failure) {
         ReportError("cannot get string", key, failure);

@@ -49,7 +49,7 @@ OutputIterator DecodeUtf8(std::string_view bytes, OutputIterator output) {
             *output++ = lead;
             continue;
         }
-        // Most letters beyond ASCII; the general case below decodes them, too, but not as fast.
+        // Two bytes: Latin, Greek, Cyrillic, Hebrew, Arabic. The general case is slower.
         if (lead >= 0xC2 && lead <= 0xDF && next != end && (*next & 0xC0U) == 0x80) {
             *output++ = static_cast<char16_t>((lead & 0x1FU) << 6U | (*next++ & 0x3FU));
             continue;

@@ -1,8 +1,8 @@
 #include "LowerCaseMapping.h"
 
 #include <algorithm>
-#include <array>
-#include <numeric>
+#include <functional>
+#include <locale>
 
 namespace LocalizationManager::Text {
 
@@ -23,29 +23,38 @@ bool IsAscii(std::u16string_view text) noexcept {
     return bits < kAsciiEnd;
 }
 
+/// The global locale's mapping, as it is now.
+class GlobalMapping {
+public:
+    char16_t operator()(char16_t unit) const {
+        const auto lower = static_cast<char32_t>(letters_.tolower(static_cast<wchar_t>(unit)));
+        return lower <= 0xFFFF ? static_cast<char16_t>(lower) : unit;  // a key keeps its length
+    }
+
+private:
+    const std::locale locale_{};
+    const std::ctype<wchar_t>& letters_ = std::use_facet<std::ctype<wchar_t>>(locale_);
+};
+
+bool MapsAsciiAsUsual(const GlobalMapping& mapping) {
+    char16_t unit = 0;
+    while (unit < kAsciiEnd && mapping(unit) == AsciiLowerCase(unit)) {
+        ++unit;
+    }
+    return unit == kAsciiEnd;
+}
+
 }  // namespace
 
-LowerCaseMapping::LowerCaseMapping() : letters_(std::use_facet<std::ctype<wchar_t>>(locale_)) {
-    std::array<wchar_t, kAsciiEnd> ascii{};
-    std::iota(ascii.begin(), ascii.end(), L'\0');
-    letters_.tolower(ascii.data(), ascii.data() + ascii.size());
-    char16_t unit = 0;
-    mapsAsciiAsUsual_ = std::all_of(ascii.begin(), ascii.end(), [&unit](wchar_t lower) {
-        return static_cast<char32_t>(lower) == AsciiLowerCase(unit++);
-    });
-}
+LowerCaseMapping::LowerCaseMapping() : mapsAsciiAsUsual_(MapsAsciiAsUsual(GlobalMapping())) {}
 
 void LowerCaseMapping::Map(std::u16string_view key, char16_t* output) const {
     if (mapsAsciiAsUsual_ && IsAscii(key)) {
         std::transform(key.begin(), key.end(), output, &AsciiLowerCase);
     } else {
-        std::transform(key.begin(), key.end(), output, [this](char16_t unit) { return Ask(unit); });
+        const GlobalMapping mapping;
+        std::transform(key.begin(), key.end(), output, std::cref(mapping));
     }
-}
-
-char16_t LowerCaseMapping::Ask(char16_t unit) const {
-    const auto lower = static_cast<char32_t>(letters_.tolower(static_cast<wchar_t>(unit)));
-    return lower <= 0xFFFF ? static_cast<char16_t>(lower) : unit;  // a key keeps its length
 }
 
 }  // namespace LocalizationManager::Text

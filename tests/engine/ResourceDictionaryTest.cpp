@@ -25,7 +25,8 @@ void ExpectFinds(const std::vector<std::u16string>& keys) {
     }
     for (std::size_t i = 0; i < keys.size(); ++i) {
         if (i % 3 == 0) {
-            dictionary.Replace(keys[i], lm_test::MakeValue({Param{keys[i]}}));
+            dictionary.Replace(dictionary.Find(keys[i]).value(),
+                               lm_test::MakeValue({Param{keys[i]}}), 1);
         }
         const auto [key, value] = dictionary.At(dictionary.Find(keys[i]).value());
         EXPECT_EQ(key, keys[i]);

@@ -5,8 +5,10 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "LocFileParser.h"
+#include "Operand.h"
 #include "ResourceDictionary.h"
 #include "Utf8.h"
 
@@ -48,10 +50,10 @@ inline std::string PrintValue(model::ValueView value,
                 break;
         }
         std::string text = "{$" + ToUtf8(operand.text);
-        for (std::u16string_view forms = operand.forms; !forms.empty();) {
-            text += forms.size() == operand.forms.size() ? ": " : ", ";
-            text += PrintValue(model::ValueView(model::TakeText(forms)), printText);
-        }
+        std::string separator = ": ";
+        ForEachForm(operand, [&](model::ValueView form) {
+            text += std::exchange(separator, ", ") + PrintValue(form, printText);
+        });
         return text + '}';
     };
     std::string text;
@@ -76,7 +78,7 @@ inline std::map<std::u16string, model::ValueView> EntriesOf(
 inline model::Value MakeValue(std::initializer_list<model::Operand> operands) {
     model::Value value;
     for (const model::Operand& operand : operands) {
-        value.Append(operand);
+        Append(value, operand);
     }
     return value;
 }

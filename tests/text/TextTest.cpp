@@ -1,6 +1,8 @@
 // Letter case, UTF-8 of messages, and the names of cultures.
 #include <gtest/gtest.h>
 
+#include <locale>
+
 #include "CultureNames.h"
 #include "GlobalLocale.h"
 #include "LowerCaseMapping.h"
@@ -10,6 +12,13 @@ namespace {
 
 using namespace std::literals;
 using namespace LocalizationManager::Text;
+
+/// Maps one ASCII letter unusually.
+struct TurkishLetters : std::ctype<wchar_t> {
+    wchar_t do_tolower(wchar_t letter) const override {
+        return letter == L'I' ? L'\u0131' : std::ctype<wchar_t>::do_tolower(letter);
+    }
+};
 
 std::u16string Mapped(std::u16string key, const LowerCaseMapping& lowerCase) {
     lowerCase.Map(key, key.data());
@@ -28,10 +37,14 @@ TEST(TextTest, KeysAreLowerCasedUnitByUnitAsTheGlobalLocaleSays) {
     };
     for (const auto& expected : cases) {
         const LowerCaseMapping classic;
-        const lm_test::GlobalLocale english("en_US.UTF-8");
         EXPECT_EQ(Mapped(expected.key, classic), expected.classic);
+        const lm_test::GlobalLocale english("en_US.UTF-8");
+        EXPECT_EQ(Mapped(expected.key, classic), expected.english);
         EXPECT_EQ(Mapped(expected.key, LowerCaseMapping()), expected.english);
     }
+    const std::locale before = std::locale::global(std::locale({}, new TurkishLetters));
+    EXPECT_EQ(Mapped(u"TITLE.A", LowerCaseMapping()), u"t\u0131tle.a");
+    std::locale::global(before);
 }
 
 TEST(TextTest, EveryUnitOfAMessageIsEncodedByItself) {

@@ -3,15 +3,15 @@
 
 #include <string_view>
 
-#include "Value.h"
+#include "ValueView.h"
 
 namespace LocalizationManager::StringLocalizing::Compiling {
 
 class IExpressionProvider {
 public:
-    /// @param operands  receives the compiled operands of the key, in place of what it held.
+    /// The compiled value of a key; holds until its dictionary is written to.
     /// @throws KeyNotFoundException for a key that is unknown.
-    virtual void GetExpression(std::u16string_view key, Model::Value& operands) = 0;
+    virtual Model::ValueView GetExpression(std::u16string_view key) = 0;
 
     virtual ~IExpressionProvider() = default;
 };

@@ -14,7 +14,6 @@ namespace LocalizationManager::StringLocalizing::Compiling {
 
 using Model::OperandKind;
 using Model::OperandView;
-using Model::Value;
 using Model::ValueView;
 
 namespace {
@@ -34,11 +33,11 @@ bool NeedsCompiling(ValueView value) {
 /// What an operand counts towards the limits of expansion: its units, and one for itself.
 std::size_t ExpandedSize(const OperandView& operand) {
     std::size_t size = 1 + operand.text.size();
-    for (std::u16string_view forms = operand.forms; !forms.empty();) {
-        for (const OperandView& inner : ValueView(Model::TakeText(forms))) {
+    ForEachForm(operand, [&size](ValueView form) {
+        for (const OperandView& inner : form) {
             size += ExpandedSize(inner);
         }
-    }
+    });
     return size;
 }
 
@@ -57,7 +56,7 @@ void ResourceCompiler::Compile(boost::shared_ptr<Model::ResourceDictionary> reso
     if (dictionary_->IsCompiled()) {
         return;
     }
-    expandedSize_ = 0;
+    expandedSize_ = dictionary_->ExpandedSize();  // of an attempt before, too
     // The order decides which fault of several is found, and what counts towards a limit first.
     std::set<std::u16string> keys;
     dictionary_->ForEach([&](Position entry) {
@@ -72,13 +71,9 @@ void ResourceCompiler::Compile(boost::shared_ptr<Model::ResourceDictionary> reso
     dictionary_->SetCompiled();
 }
 
-void ResourceCompiler::GetExpression(std::u16string_view key, Value& operands) {
-    if (!dictionary_->Find(key)) {
-        parent_->GetExpression(key, operands);
-        return;
-    }
-    CompileKey(key);
-    operands = Value(dictionary_->At(*dictionary_->Find(key)).value);
+ValueView ResourceCompiler::GetExpression(std::u16string_view key) {
+    const auto found = dictionary_->Find(key);
+    return found ? dictionary_->At(*found).value : parent_->GetExpression(key);
 }
 
 void ResourceCompiler::CompileKey(std::u16string_view key) {
@@ -122,7 +117,7 @@ void ResourceCompiler::Step() {
 
 void ResourceCompiler::Finish() {
     const Visit& visit = visits_.back();
-    dictionary_->Replace(dictionary_->At(visit.entry).key, visit.output);
+    dictionary_->Replace(visit.entry, visit.output, visit.outputSize);
     visiting_.erase(visit.entry);
     visits_.pop_back();
 }
@@ -133,9 +128,7 @@ void ResourceCompiler::Finish() {
 bool ResourceCompiler::AppendReferenced(std::u16string_view key) {
     const auto found = dictionary_->Find(key);
     if (!found) {
-        Value inherited;
-        parent_->GetExpression(key, inherited);
-        AppendAll(inherited.view());
+        AppendAll(parent_->GetExpression(key));
         return true;
     }
     if (visiting_.count(*found) != 0) {

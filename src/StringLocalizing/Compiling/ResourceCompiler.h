@@ -25,7 +25,7 @@ public:
     void Compile(boost::shared_ptr<Model::ResourceDictionary> resourceDictionary);
 
     /// For a child compiler, once `Compile` has run.
-    void GetExpression(std::u16string_view key, Model::Value& operands) override;
+    Model::ValueView GetExpression(std::u16string_view key) override;
 
 private:
     using Position = Model::ResourceDictionary::Position;

@@ -4,7 +4,7 @@
 
 namespace LocalizationManager::StringLocalizing::Compiling {
 
-void RootExpressionProvider::GetExpression(std::u16string_view key, Model::Value& /*operands*/) {
+Model::ValueView RootExpressionProvider::GetExpression(std::u16string_view key) {
     throw Model::KeyNotFoundException(key);
 }
 

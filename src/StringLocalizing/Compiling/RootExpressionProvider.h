@@ -7,7 +7,7 @@ namespace LocalizationManager::StringLocalizing::Compiling {
 
 class RootExpressionProvider : public IExpressionProvider {
 public:
-    void GetExpression(std::u16string_view key, Model::Value& operands) override;
+    Model::ValueView GetExpression(std::u16string_view key) override;
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Compiling

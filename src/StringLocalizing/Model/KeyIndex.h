@@ -1,4 +1,4 @@
-// Finds what belongs to a key.
+// A hash table of keys that stand elsewhere.
 #pragma once
 
 #include <algorithm>
@@ -12,8 +12,7 @@
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-/// A hash table of positions in a text that the owner keeps, where the keys stand. It grows by being
-/// replaced.
+/// Knows the position of each key in a text that the owner keeps. It grows by being replaced.
 class KeyIndex {
 public:
     using Hash = std::uint32_t;
@@ -26,11 +25,13 @@ public:
     }
 
     /// @param hash    of the key.
-    /// @param hasKey  whether the key stands at a position.
+    /// @param hasKey  whether the key is the one at a position.
+    /// @return null when there is no such key.
     template <class HasKey>
     const Position* Find(std::u16string_view key, Hash hash, HasKey hasKey) const {
-        for (std::size_t probe = 0; probe < probes_; ++probe) {
-            const Slot& slot = slots_[(hash + probe) & mask_];
+        const std::size_t probes = Probes();
+        for (std::size_t probe = 0; probe < probes; ++probe) {
+            const Slot& slot = slots_[Place(hash, probe)];
             if (slot.position == kFree) {
                 return nullptr;
             }
@@ -81,11 +82,14 @@ private:
     /// stand in `crowded_`: no choice of keys makes a lookup slow.
     static constexpr std::size_t kMaxProbes = 32;
 
-    explicit KeyIndex(std::size_t size);
+    explicit KeyIndex(std::size_t size) : slots_(size) {}
+
+    std::size_t Probes() const noexcept { return std::min(kMaxProbes, slots_.size()); }
+    std::size_t Place(Hash hash, std::size_t probe) const noexcept {
+        return (hash + probe) & (slots_.size() - 1);
+    }
 
     std::vector<Slot> slots_;  // a power of two
-    std::size_t mask_ = 0;
-    std::size_t probes_ = 0;
     std::size_t count_ = 0;
     std::map<std::u16string, Position, std::less<>> crowded_;
 };

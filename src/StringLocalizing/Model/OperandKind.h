@@ -1,11 +1,10 @@
-// The kinds of operands.
+// The kinds of operands, in the order of the alternatives of `Operand`.
 #pragma once
 
 #include <cstdint>
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-/// In the order of the alternatives of `Operand`.
 enum class OperandKind : std::uint8_t { Text, KeyRef, Param, PluralForm };
 
 }  // namespace LocalizationManager::StringLocalizing::Model

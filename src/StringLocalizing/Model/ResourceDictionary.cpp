@@ -1,5 +1,6 @@
 #include "ResourceDictionary.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <stdexcept>
@@ -28,7 +29,7 @@ bool ResourceDictionary::Add(std::u16string_view key, const Value& value) {
     const Position position = Write(key, value);
     try {
         index_.Insert(key, hash, position);
-    } catch (...) {
+    } catch (...) {  // memory ran out; nobody would find the entry
         entries_.resize(position);
         throw;
     }
@@ -47,11 +48,11 @@ ResourceDictionary::Entry ResourceDictionary::At(Position position) const noexce
     return {key, ValueView(TakeText(rest))};
 }
 
-void ResourceDictionary::Replace(std::u16string_view key, const Value& value) {
-    const KeyIndex::Hash hash = KeyIndex::HashOf(key);
-    const Position before = *Lookup(key, hash);
-    const std::u16string copy(key);  // of a key that may stand here
-    index_.Move(copy, hash, before, Write(copy, value));
+void ResourceDictionary::Replace(Position entry, const Value& value, std::size_t expandedSize) {
+    const std::u16string key(
+        At(entry).key);  // a copy: what stands here moves when it is written to
+    index_.Move(key, KeyIndex::HashOf(key), entry, Write(key, value));
+    expandedSize_ += expandedSize;
     hasReplaced_ = true;
 }
 
@@ -68,7 +69,9 @@ ResourceDictionary::Position ResourceDictionary::Write(std::u16string_view key,
     if (end >= std::numeric_limits<Position>::max()) {
         throw std::length_error("too many texts for one dictionary");
     }
-    entries_.reserve(end);  // an entry is written whole or not at all
+    if (end > entries_.capacity()) {  // an entry is written whole or not at all
+        entries_.reserve(std::max(end, 2 * entries_.capacity()));
+    }
     const auto position = static_cast<Position>(entries_.size());
     AppendText(entries_, key);
     AppendText(entries_, code);

@@ -43,8 +43,11 @@ public:
     /// The entry that was found.
     Entry At(Position position) const noexcept;
 
-    /// Replaces the value of a key that is there.
-    void Replace(std::u16string_view key, const Value& value);
+    /// Replaces the value of an entry, which then stands elsewhere.
+    /// @param expandedSize  what that adds to the size of all values that were replaced.
+    void Replace(Position entry, const Value& value, std::size_t expandedSize);
+
+    std::size_t ExpandedSize() const noexcept { return expandedSize_; }
 
     bool empty() const noexcept { return entries_.empty(); }
 
@@ -73,6 +76,7 @@ private:
 
     std::u16string entries_;
     KeyIndex index_;
+    std::size_t expandedSize_ = 0;
     bool isCompiled_ = false;
     bool hasReplaced_ = false;  // a key then may stand at several places
 };

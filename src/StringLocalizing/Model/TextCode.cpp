@@ -17,7 +17,6 @@ void SetLength(std::u16string& code, std::size_t position, std::size_t length) {
 
 void AppendText(std::u16string& code, std::u16string_view text) {
     const std::size_t position = code.size();
-    code.reserve(position + kLengthUnits + text.size());
     code.append(kLengthUnits, u'\0');
     SetLength(code, position, text.size());
     code += text;

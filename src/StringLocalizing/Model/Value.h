@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "Operand.h"
+#include "OperandKind.h"
+#include "OperandView.h"
 #include "ValueView.h"
 
 namespace LocalizationManager::StringLocalizing::Model {
@@ -14,15 +16,11 @@ namespace LocalizationManager::StringLocalizing::Model {
 /// in one text: of each its kind and its text or name, and of a plural form its values.
 class Value {
 public:
-    Value() = default;
-
-    /// A copy.
-    explicit Value(ValueView view);
-
     ValueView view() const noexcept { return ValueView(code_); }
 
-    void Append(const Operand& operand);
-    void Append(const OperandView& operand);  // of another value
+    /// @param text   of a text; else the key, or the parameter's name.
+    /// @param forms  of a plural form.
+    void Append(OperandKind kind, std::u16string_view text, const std::vector<Value>& forms = {});
 
     /// Appends an operand of another value; a text is joined to a text before it.
     void Join(const OperandView& operand);

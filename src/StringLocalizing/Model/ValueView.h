@@ -24,7 +24,6 @@ public:
         explicit Iterator(std::u16string_view rest) noexcept : rest_(rest) { Read(); }
 
         reference operator*() const noexcept { return operand_; }
-        pointer operator->() const noexcept { return &operand_; }
         Iterator& operator++() noexcept {
             rest_.remove_prefix(operand_.code.size());
             Read();
@@ -61,5 +60,13 @@ public:
 private:
     std::u16string_view code_;
 };
+
+/// Calls `visit` with each form of a plural form.
+template <class Visit>
+void ForEachForm(const OperandView& pluralForm, Visit visit) {
+    for (std::u16string_view forms = pluralForm.forms; !forms.empty();) {
+        visit(ValueView(TakeText(forms)));
+    }
+}
 
 }  // namespace LocalizationManager::StringLocalizing::Model

@@ -13,7 +13,7 @@ void AddEntry(Model::ResourceDictionary& dictionary, KeyValueEntry& entry,
 }
 
 void AddOperand(Model::Value& value, Model::Operand& operand) {
-    value.Append(operand);
+    Model::Append(value, operand);
 }
 
 void SetKeyRef(Model::KeyRef& keyRef, std::u16string& name,

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "LowerCaseMapping.h"
+#include "Operand.h"
 #include "ResourceDictionary.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {

@@ -57,15 +57,16 @@ inline LocFileGrammar::LocFileGrammar() : base_type(resourceDictionary_, "resour
 
 inline void LocFileGrammar::DefineEntries() {
     using boost::phoenix::bind;
-    using boost::phoenix::cref;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::char_;
     using boost::spirit::standard_wide::space;
 
-    resourceDictionary_ = skip(
-        space |
-        comment_)[*keyValueEntry_[boost::phoenix::bind(&AddEntry, _val, _1, cref(lowerCase_))] >
-                  eoi];
+    const boost::phoenix::function addEntry(
+        [this](Model::ResourceDictionary& dictionary, KeyValueEntry& entry) {
+            AddEntry(dictionary, entry, lowerCase_);
+        });
+
+    resourceDictionary_ = skip(space | comment_)[*keyValueEntry_[addEntry(_val, _1)] > eoi];
     comment_ = L';' >> *(char_ - eol);
     keyValueEntry_ = skip(space)[key_ > L'=' > expression_];
     key_ = raw[char_(L"a-zA-Z_") >> *char_(L"a-zA-Z_0-9.")];
@@ -74,7 +75,6 @@ inline void LocFileGrammar::DefineEntries() {
 
 inline void LocFileGrammar::DefineOperands() {
     using boost::phoenix::bind;
-    using boost::phoenix::cref;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::char_;
     using boost::spirit::standard_wide::space;
@@ -85,6 +85,9 @@ inline void LocFileGrammar::DefineOperands() {
         [](std::u16string& text, const auto& run) { text.append(run.begin(), run.end()); });
     const boost::phoenix::function appendUnit(
         [](std::u16string& text, char16_t unit) { text.push_back(unit); });
+    const boost::phoenix::function setKeyRef([this](Model::KeyRef& keyRef, std::u16string& name) {
+        SetKeyRef(keyRef, name, lowerCase_);
+    });
     const boost::phoenix::function setName(
         [](auto& target, std::u16string& name) { SetName(target, name); });
 
@@ -93,7 +96,7 @@ inline void LocFileGrammar::DefineOperands() {
     string_ =
         (L'\'' >> *(raw[+(char_ - (lit(L'\'') | L'\\'))][append(_val, _1)] |
                     escapes_[appendUnit(_val, _1)] | lit(L'\\')[appendUnit(_val, u'\\')])) > L'\'';
-    keyRef_ = key_[boost::phoenix::bind(&SetKeyRef, _val, _1, cref(lowerCase_))];
+    keyRef_ = key_[setKeyRef(_val, _1)];
     paramName_ = L'$' > key_;
     param_ = skip(space)[paramName_[setName(_val, _1)] >> !lit(L':')];
     // All recursion of the grammar goes through this rule.

@@ -22,19 +22,19 @@ using Model::OperandKind;
 /// The form at an index, of as many as are expected.
 Model::ValueView FormOf(const Model::OperandView& pluralForm, std::size_t index,
                         std::size_t expected) {
-    std::u16string_view form;
+    Model::ValueView form({});
     std::size_t count = 0;
-    for (std::u16string_view rest = pluralForm.forms; !rest.empty(); ++count) {
-        const std::u16string_view next = Model::TakeText(rest);
+    ForEachForm(pluralForm, [&](Model::ValueView next) {
         form = count == index ? next : form;
-    }
+        ++count;
+    });
     if (count != expected) {
         boost::format text(
             "Invalid plural form count (expected: %1%, got: %2%, discriminator: %3%)",
             std::locale::classic());
         throw std::logic_error((text % expected % count % Text::ToUtf8(pluralForm.text)).str());
     }
-    return Model::ValueView(form);
+    return form;
 }
 
 /// Appends the texts of operands.

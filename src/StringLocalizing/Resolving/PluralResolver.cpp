@@ -50,16 +50,17 @@ PluralResolver::PluralResolver(boost::shared_ptr<IParamResolver> paramResolver,
                                    {"pluralFormRules", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
     try {
         rule_ = pluralFormRules_->GetRule(ruleId_);
-    } catch (
-        const std::exception&) {  // a fault of the requests that need the rule, not of this one
+    } catch (const std::exception&) {
+        // The requests that need the rule report it.
     }
 }
 
 std::uint16_t PluralResolver::Resolve(const qor::string16_t& paramName) {
     const std::int64_t number = ParseNumber(paramResolver_->Resolve(paramName).view());
-    const Model::PluralFormRule fetched =
-        rule_ ? Model::PluralFormRule() : pluralFormRules_->GetRule(ruleId_);
-    const Model::PluralFormRule& rule = rule_ ? *rule_ : fetched;
+    if (!rule_) {
+        pluralFormRules_->GetRule(ruleId_);  // fails as it did before
+    }
+    const Model::PluralFormRule& rule = rule_.value();
     const auto entry = std::find_if(rule.begin(), rule.end(),
                                     [number](const auto& condition) { return condition(number); });
     if (entry != rule.end()) {

@@ -7,7 +7,8 @@
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
-/// Texts that are appended. One that is alone is not copied, and most others need no allocation.
+/// A text made of parts. One that stays alone is only viewed, and most others fit without an
+/// allocation.
 class ResolvedText {
 public:
     /// @param text  lives longer than this object.

@@ -47,8 +47,8 @@ private:
     boost::shared_ptr<IKeyResolver> keyResolver_;
     boost::shared_ptr<const Model::ResourceDictionary> resourceDictionary_;
     std::u16string name_;
-    Text::LowerCaseMapping
-        lowerCase_;  // fetching it for each request would cost more than the lookup
+    // Fetching it at each request would cost more than the lookup.
+    Text::LowerCaseMapping lowerCase_;
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving
