@@ -105,7 +105,7 @@ TEST(LimitsTest, ReferencesExpandUpToTheLimits) {
                     .Compile(dictionary);
             });
         };
-        const std::string first = attempt();
+        std::string first = attempt();
         EXPECT_EQ(attempt(), first) << "what is done already counts";
         return first;
     };

@@ -11,6 +11,7 @@
 #include <new>
 #include <utility>
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's
 extern "C" {
 void* __real_malloc(std::size_t size);
 void __real_free(void* memory);
@@ -149,3 +150,4 @@ ssize_t __wrap_read(int file, void* destination, std::size_t wanted) {
 }
 
 }  // extern "C"
+// NOLINTEND(bugprone-reserved-identifier)

@@ -9,7 +9,7 @@ namespace LocalizationManager::StringLocalizing::Resolving {
 
 /// A text made of parts. One that stays alone is only viewed, and most others fit without an
 /// allocation.
-class ResolvedText {
+class ResolvedText {  // NOLINT(bugprone-exception-escape): a move finds room and does not allocate
 public:
     /// @param text  lives longer than this object.
     void AppendLasting(std::u16string_view text) {
