@@ -39,10 +39,12 @@ struct Request {
     std::u16string parameter16;
     const Message* message;
 
-    /// Brings the key near, as it is with a host that is about to ask: only the systems search.
+    /// Brings the texts near, as they are with a host that is about to ask: only the systems search.
     void Prefetch() const {
         __builtin_prefetch(key.data());
         __builtin_prefetch(key16.data());
+        __builtin_prefetch(parameter.data());
+        __builtin_prefetch(parameter16.data());
     }
 
     const Pattern& Form() const;
