@@ -4,7 +4,6 @@
 #include <fstream>
 #include <memory>
 #include <random>
-#include <regex>
 #include <thread>
 #include <tuple>
 
@@ -254,10 +253,11 @@ TEST_F(EverythingAtOnceTest, IsAnsweredAsIfAlone) {
         delete left.load();
     }
     EXPECT_EQ(CanUnload(), kOk);
-    const std::regex report(
+    replaced.emplace_back(
         "localization manager error: .*( 'none.lt'|Key 'none' not found|nobody, error: Not "
-        "found)\n");
-    EXPECT_EQ(std::regex_replace(listener.Take(), report, "."), std::string(failures, '.'));
+        "found)\n",
+        ".");
+    EXPECT_EQ(Shown(listener.Take()), std::string(failures, '.'));
 }
 
 }  // namespace
