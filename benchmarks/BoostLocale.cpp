@@ -22,14 +22,14 @@ auto Translate(const Char* key, const Request& request, const std::locale& in) {
 
 class BoostLocale : public System {
 public:
-    BoostLocale(const std::filesystem::path& directory, std::size_t size,
-                locale::character_facet_type characters = locale::char_facet) {
+    explicit BoostLocale(const std::filesystem::path& directory,
+                         locale::character_facet_type characters = locale::char_facet) {
         locale::generator generator;
         // Messages alone: loading should not pay for collation, calendars and the like.
         generator.categories(locale::message_facet);
         generator.characters(characters);
         generator.add_messages_path(directory.string());
-        generator.add_messages_domain(GettextDomain(size));
+        generator.add_messages_domain(kGettextDomain);
         locale_ = generator("ru_RU.UTF-8");
     }
 
@@ -51,8 +51,8 @@ protected:
 
 class BoostLocaleWide : public BoostLocale {
 public:
-    BoostLocaleWide(const std::filesystem::path& directory, std::size_t size)
-        : BoostLocale(directory, size, locale::wchar_t_facet) {}
+    explicit BoostLocaleWide(const std::filesystem::path& directory)
+        : BoostLocale(directory, locale::wchar_t_facet) {}
 
     void Answer(const Request& request) override {
         const std::wstring key(request.key.begin(), request.key.end());
@@ -63,8 +63,8 @@ public:
 };
 
 template <class SystemClass>
-std::unique_ptr<System> Open(const std::filesystem::path& directory, std::size_t size) {
-    return std::make_unique<SystemClass>(directory, size);
+std::unique_ptr<System> Open(const std::filesystem::path& directory) {
+    return std::make_unique<SystemClass>(directory);
 }
 
 }  // namespace

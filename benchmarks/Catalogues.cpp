@@ -4,27 +4,22 @@
 
 namespace lm_bench {
 
-const Workload& Catalogues::WorkloadOf(std::size_t size) {
+std::filesystem::path Catalogues::File(const SystemType& type) {
     const std::lock_guard<std::recursive_mutex> lock(mutex_);
-    return workloads_.try_emplace(size, size).first->second;
-}
-
-std::filesystem::path Catalogues::File(const SystemType& type, std::size_t size) {
-    const std::lock_guard<std::recursive_mutex> lock(mutex_);
-    std::filesystem::path file = type.file(directory_, size);
+    std::filesystem::path file = type.file(directory_);
     if (!exists(file)) {
-        type.write(directory_, WorkloadOf(size));
+        type.write(directory_, workload_);
     }
     return file;
 }
 
-System& Catalogues::Opened(const SystemType& type, std::size_t size) {
+System& Catalogues::Opened(const SystemType& type) {
     const std::lock_guard<std::recursive_mutex> lock(mutex_);
-    std::unique_ptr<System>& system = systems_[{type.name, size}];
+    std::unique_ptr<System>& system = systems_[type.name];
     if (!system) {
-        File(type, size);
-        auto opened = type.open(directory_, size);
-        for (const Request& request : WorkloadOf(size).All()) {
+        File(type);
+        auto opened = type.open(directory_);
+        for (const Request& request : workload_.All()) {
             opened->AnswerRightly(request);
         }
         system = std::move(opened);

@@ -1,4 +1,4 @@
-// Workloads, files and systems, each made when a benchmark first needs it.
+// The systems over one workload and their files, each made when a benchmark first needs it.
 #pragma once
 
 #include <filesystem>
@@ -14,23 +14,25 @@ namespace lm_bench {
 /// Threads may ask at once.
 class Catalogues {
 public:
-    explicit Catalogues(std::filesystem::path directory) : directory_(std::move(directory)) {}
+    /// @param directory  where the files are written.
+    Catalogues(std::filesystem::path directory, std::size_t size)
+        : directory_(std::move(directory)), workload_(size) {}
 
-    const std::filesystem::path& Directory() const { return directory_; }
-    const Workload& WorkloadOf(std::size_t size);
+    const std::filesystem::path& directory() const { return directory_; }
+    const Workload& workload() const { return workload_; }
 
     /// The file of a system, written if need be.
-    std::filesystem::path File(const SystemType& type, std::size_t size);
+    std::filesystem::path File(const SystemType& type);
 
     /// A started system that has answered every request of the workload rightly.
     /// @throws std::runtime_error when it did not.
-    System& Opened(const SystemType& type, std::size_t size);
+    System& Opened(const SystemType& type);
 
 private:
     std::filesystem::path directory_;
     std::recursive_mutex mutex_;
-    std::map<std::size_t, Workload> workloads_;
-    std::map<std::pair<std::string, std::size_t>, std::unique_ptr<System>> systems_;
+    Workload workload_;
+    std::map<std::string, std::unique_ptr<System>> systems_;
 };
 
 }  // namespace lm_bench

@@ -15,24 +15,23 @@ thread_local std::string kept;
 
 class Gettext : public System {
 public:
-    Gettext(const std::filesystem::path& directory, std::size_t size)
-        : domain_(GettextDomain(size)) {
-        bindtextdomain(domain_.c_str(), directory.c_str());
+    explicit Gettext(const std::filesystem::path& directory) {
+        bindtextdomain(kGettextDomain, directory.c_str());
     }
 
     void Answer(const Request& request) override {
-        const char* const domain = domain_.c_str();
         const char* const key = request.key.c_str();
         switch (request.kind) {
             case Kind::Plain:
-                kept = dgettext(domain, key);
+                kept = dgettext(kGettextDomain, key);
                 break;
             case Kind::Parameter:
-                Keep(dgettext(domain, key), request.parameter.c_str());
+                Keep(dgettext(kGettextDomain, key), request.parameter.c_str());
                 break;
             case Kind::Plural:
-                Keep(dngettext(domain, key, key, static_cast<unsigned long>(request.number)),
-                     request.number);
+                Keep(
+                    dngettext(kGettextDomain, key, key, static_cast<unsigned long>(request.number)),
+                    request.number);
                 break;
         }
     }
@@ -46,12 +45,10 @@ private:
         const int length = std::snprintf(text.data(), text.size(), format, argument);
         kept.assign(text.data(), static_cast<std::size_t>(length));
     }
-
-    std::string domain_;
 };
 
-std::unique_ptr<System> Open(const std::filesystem::path& directory, std::size_t size) {
-    return std::make_unique<Gettext>(directory, size);
+std::unique_ptr<System> Open(const std::filesystem::path& directory) {
+    return std::make_unique<Gettext>(directory);
 }
 
 }  // namespace

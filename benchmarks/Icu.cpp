@@ -17,12 +17,8 @@ namespace {
 
 thread_local icu::UnicodeString kept;
 
-std::filesystem::path Directory(const std::filesystem::path& directory, std::size_t size) {
-    return directory / ("icu" + std::to_string(size));
-}
-
-std::filesystem::path File(const std::filesystem::path& directory, std::size_t size) {
-    return Directory(directory, size) / "ru.res";
+std::filesystem::path File(const std::filesystem::path& directory) {
+    return directory / "ru.res";
 }
 
 std::string PatternText(const Message& message) {
@@ -41,7 +37,7 @@ std::string PatternText(const Message& message) {
 }
 
 void Write(const std::filesystem::path& directory, const Workload& workload) {
-    const std::filesystem::path compiled = File(directory, workload.Size());
+    const std::filesystem::path compiled = File(directory);
     // Genrb keeps a sorted list that it searches from the front, so the last key comes first.
     std::vector<const Message*> order;
     for (const Message& message : workload.Messages()) {
@@ -135,8 +131,8 @@ private:
 };
 
 template <class SystemClass>
-std::unique_ptr<System> Open(const std::filesystem::path& directory, std::size_t size) {
-    return std::make_unique<SystemClass>(Directory(directory, size));
+std::unique_ptr<System> Open(const std::filesystem::path& directory) {
+    return std::make_unique<SystemClass>(directory);
 }
 
 }  // namespace

@@ -44,22 +44,21 @@ std::string Value(const Message& message) {
     return {};
 }
 
-std::filesystem::path Tree(const std::filesystem::path& directory, std::size_t size) {
-    return directory / ("tree" + std::to_string(size));
+std::filesystem::path ScopeFile(const std::filesystem::path& tree, const std::string& scope) {
+    return tree / "ru" / "Locs" / (scope + ".lt");
 }
 
-std::filesystem::path File(const std::filesystem::path& directory, std::size_t size) {
-    return Tree(directory, size) / "ru" / "Locs" / "main.lt";
+std::filesystem::path File(const std::filesystem::path& directory) {
+    return ScopeFile(directory, "main");
 }
 
 void Write(const std::filesystem::path& directory, const Workload& workload) {
-    const std::filesystem::path tree = Tree(directory, workload.Size());
-    WriteScope(tree, "main", workload);
-    WriteFile(tree / "ru" / "Locs" / "common.lt", "");
+    WriteScope(directory, "main", workload);
+    WriteFile(ScopeFile(directory, "common"), "");
 }
 
-std::unique_ptr<System> Open(const std::filesystem::path& directory, std::size_t size) {
-    return std::make_unique<Module>(*OpenManager(Tree(directory, size)), u"main");
+std::unique_ptr<System> Open(const std::filesystem::path& directory) {
+    return std::make_unique<Module>(*OpenManager(directory), u"main");
 }
 
 }  // namespace
@@ -79,7 +78,7 @@ void WriteScope(const std::filesystem::path& tree, const char* scope, const Work
     for (const Message& message : workload.Messages()) {
         source += message.key + " = " + Value(message) + '\n';
     }
-    WriteFile(tree / "ru" / "Locs" / (std::string(scope) + ".lt"), source);
+    WriteFile(ScopeFile(tree, scope), source);
 }
 
 Module::Module(lm::ILocalizationManager& manager, const char16_t* scope) {

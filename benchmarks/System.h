@@ -36,14 +36,14 @@ protected:
 struct SystemType {
     const char* name;
 
-    /// The file that the system loads for a workload of some size.
-    std::filesystem::path (*file)(const std::filesystem::path& directory, std::size_t size);
+    /// The file that the system loads.
+    std::filesystem::path (*file)(const std::filesystem::path& directory);
 
     /// Makes that file.
     void (*write)(const std::filesystem::path& directory, const Workload& workload);
 
     /// Starts the system; what it leaves for the first request is part of starting it.
-    std::unique_ptr<System> (*open)(const std::filesystem::path& directory, std::size_t size);
+    std::unique_ptr<System> (*open)(const std::filesystem::path& directory);
 };
 
 extern const SystemType kModule;

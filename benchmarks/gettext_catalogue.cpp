@@ -33,16 +33,12 @@ std::string Entry(const Message& message) {
 
 }  // namespace
 
-std::string GettextDomain(std::size_t size) {
-    return "messages" + std::to_string(size);
-}
-
-std::filesystem::path GettextFile(const std::filesystem::path& directory, std::size_t size) {
-    return directory / "ru" / "LC_MESSAGES" / (GettextDomain(size) + ".mo");
+std::filesystem::path GettextFile(const std::filesystem::path& directory) {
+    return directory / "ru" / "LC_MESSAGES" / (std::string(kGettextDomain) + ".mo");
 }
 
 void WriteGettextCatalogue(const std::filesystem::path& directory, const Workload& workload) {
-    const std::filesystem::path compiled = GettextFile(directory, workload.Size());
+    const std::filesystem::path compiled = GettextFile(directory);
     std::string source = kHeader;
     for (const Message& message : workload.Messages()) {
         source += Entry(message);

@@ -7,10 +7,10 @@
 
 namespace lm_bench {
 
-/// The name of the catalogue of some size.
-std::string GettextDomain(std::size_t size);
+/// The name of the catalogue.
+inline constexpr const char* kGettextDomain = "messages";
 
-std::filesystem::path GettextFile(const std::filesystem::path& directory, std::size_t size);
+std::filesystem::path GettextFile(const std::filesystem::path& directory);
 
 /// Writes the workload's catalogue and compiles it with msgfmt.
 void WriteGettextCatalogue(const std::filesystem::path& directory, const Workload& workload);

@@ -16,6 +16,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "Catalogues.h"
 #include "Module.h"
@@ -41,73 +42,73 @@ void AskAll(benchmark::State& state, System& system, const std::vector<Request>&
     state.SetItemsProcessed(state.iterations());
 }
 
-std::string Name(std::initializer_list<std::string> parts) {
-    return std::accumulate(parts.begin() + 1, parts.end(), *parts.begin(),
-                           [](const auto& all, const auto& part) { return all + '/' + part; });
+/// @param name  of the benchmark, in parts; the number of messages follows.
+template <class Measure>
+auto* Register(const Catalogues& catalogues, std::initializer_list<const char*> name,
+               Measure measure) {
+    std::string path;
+    for (const char* part : name) {
+        path.append(part).append(1, '/');
+    }
+    path += std::to_string(catalogues.workload().Size());
+    return benchmark::RegisterBenchmark(path.c_str(), std::move(measure));
 }
 
-void RegisterRequests(Catalogues& catalogues, const SystemType& type, Kind kind, std::size_t size) {
-    const std::string name = Name(
-        {"request", kKindNames[static_cast<std::size_t>(kind)], type.name, std::to_string(size)});
-    benchmark::RegisterBenchmark(name.c_str(), [&catalogues, &type, kind, size,
-                                                next = std::size_t{0}](auto& state) mutable {
-        AskAll(state, catalogues.Opened(type, size), catalogues.WorkloadOf(size).Of(kind), next);
-    });
+void RegisterRequests(Catalogues& catalogues, const SystemType& type, Kind kind) {
+    Register(catalogues, {"request", kKindNames[static_cast<std::size_t>(kind)], type.name},
+             [&catalogues, &type, kind, next = std::size_t{0}](auto& state) mutable {
+                 AskAll(state, catalogues.Opened(type), catalogues.workload().Of(kind), next);
+             });
 }
 
 /// Requests of all kinds; each thread begins at a place of its own.
-void RegisterThreads(Catalogues& catalogues, const SystemType& type, std::size_t size) {
+void RegisterThreads(Catalogues& catalogues, const SystemType& type) {
     for (const int threads : {1, 2}) {
-        benchmark::RegisterBenchmark(
-            Name({"threads", type.name, std::to_string(size)}).c_str(),
-            [&catalogues, &type, size](benchmark::State& state) {
-                const std::vector<Request>& requests = catalogues.WorkloadOf(size).All();
-                std::size_t next =
-                    requests.size() / 2 * static_cast<std::size_t>(state.thread_index());
-                AskAll(state, catalogues.Opened(type, size), requests, next);
-            })
+        Register(catalogues, {"threads", type.name},
+                 [&](benchmark::State& state) {
+                     const std::vector<Request>& requests = catalogues.workload().All();
+                     std::size_t next =
+                         requests.size() / 2 * static_cast<std::size_t>(state.thread_index());
+                     AskAll(state, catalogues.Opened(type), requests, next);
+                 })
             ->Threads(threads)
             ->MinTime(0.5)
             ->UseRealTime();
     }
 }
 
-void RegisterStart(Catalogues& catalogues, const SystemType& type, std::size_t size) {
-    benchmark::RegisterBenchmark(
-        Name({"start", type.name, std::to_string(size)}).c_str(),
-        [&, size](auto& state) {
-            catalogues.File(type, size);
-            const Request& request = catalogues.WorkloadOf(size).All().front();
-            type.open(catalogues.Directory(), size)->AnswerRightly(request);
-            for ([[maybe_unused]] auto _ : state) {
-                auto system = type.open(catalogues.Directory(), size);
-                system->Answer(request);
-                state.PauseTiming();
-                system.reset();
-                state.ResumeTiming();
-            }
-        })
-        ->Unit(benchmark::kMillisecond);
+void RegisterStart(Catalogues& catalogues, const SystemType& type) {
+    Register(catalogues, {"start", type.name}, [&](auto& state) {
+        catalogues.File(type);
+        const Request& request = catalogues.workload().All().front();
+        type.open(catalogues.directory())->AnswerRightly(request);
+        for ([[maybe_unused]] auto _ : state) {
+            auto system = type.open(catalogues.directory());
+            system->Answer(request);
+            state.PauseTiming();
+            system.reset();
+            state.ResumeTiming();
+        }
+    })->Unit(benchmark::kMillisecond);
 }
 
-void RegisterStage(Catalogues& catalogues, const char* stage, std::size_t size,
+void RegisterStage(Catalogues& catalogues, const char* stage,
                    void (*measure)(benchmark::State&, const std::filesystem::path&)) {
-    benchmark::RegisterBenchmark(
-        Name({"stage", stage, std::to_string(size)}).c_str(),
-        [=, &catalogues](auto& state) { measure(state, catalogues.File(kModule, size)); })
-        ->Unit(benchmark::kMillisecond);
+    Register(catalogues, {"stage", stage}, [&catalogues, measure](auto& state) {
+        measure(state, catalogues.File(kModule));
+    })->Unit(benchmark::kMillisecond);
 }
 
 /// A further localizer of the culture, with a small scope, beside a first one that stays.
 class SecondLocalizer {
 public:
-    SecondLocalizer(Catalogues& catalogues, std::size_t size) : small_(10) {
-        const auto tree = catalogues.Directory() / ("common" + std::to_string(size));
-        WriteScope(tree, "common", catalogues.WorkloadOf(size));
+    explicit SecondLocalizer(const Catalogues& catalogues) : small_(10) {
+        const auto tree = catalogues.directory() / "second";
+        WriteScope(tree, "common", catalogues.workload());
         WriteScope(tree, "small", small_);
         manager_ = OpenManager(tree);
         first_ = std::make_unique<Module>(*manager_, u"small");
-        first_->AnswerRightly(catalogues.WorkloadOf(size).All().front());
+        first_->AnswerRightly(catalogues.workload().All().front());
         Module(*manager_, u"small").AnswerRightly(small_.All().front());
     }
 
@@ -123,24 +124,21 @@ private:
     std::unique_ptr<Module> first_;
 };
 
-void RegisterSecondLocalizer(Catalogues& catalogues, std::size_t size) {
-    const auto measure = [&catalogues, size, second = std::shared_ptr<SecondLocalizer>()](
-                             benchmark::State& state) mutable {
-        if (!second) {
-            second = std::make_shared<SecondLocalizer>(catalogues, size);
-        }
-        second->Measure(state);
-    };
-    benchmark::RegisterBenchmark(Name({"second", std::to_string(size)}).c_str(), measure)
+void RegisterSecondLocalizer(Catalogues& catalogues) {
+    Register(catalogues, {"second"},
+             [&catalogues, second = std::shared_ptr<SecondLocalizer>()](auto& state) mutable {
+                 if (!second) {
+                     second = std::make_shared<SecondLocalizer>(catalogues);
+                 }
+                 second->Measure(state);
+             })
         ->Unit(benchmark::kMicrosecond);
 }
 
 /// What the second localizer is held against: to read the common texts once, byte by byte.
-void RegisterReadingPass(Catalogues& catalogues, std::size_t size) {
-    benchmark::RegisterBenchmark(Name({"reading", std::to_string(size)}).c_str(), [&catalogues,
-                                                                                   size](
-                                                                                      auto& state) {
-        const std::filesystem::path file = catalogues.File(kModule, size);
+void RegisterReadingPass(Catalogues& catalogues) {
+    Register(catalogues, {"reading"}, [&](auto& state) {
+        const std::filesystem::path file = catalogues.File(kModule);
         std::string bytes(file_size(file), ' ');
         for ([[maybe_unused]] auto _ : state) {
             std::ifstream(file, std::ios::binary)
@@ -151,66 +149,66 @@ void RegisterReadingPass(Catalogues& catalogues, std::size_t size) {
 }
 
 /// Measured by this program, run once more.
-void RegisterMemory(Catalogues& catalogues, const SystemType& type, std::size_t size) {
-    const std::string name = Name({"memory", type.name, std::to_string(size)});
-    benchmark::RegisterBenchmark(
-        name.c_str(),
-        [&, size](benchmark::State& state) {
-            const auto file = static_cast<double>(file_size(catalogues.File(type, size)));
-            const auto self = std::filesystem::read_symlink("/proc/self/exe");
-            const std::string command = "exec " + self.string() + " --memory '" +
-                                        std::string(type.name) + "' " + std::to_string(size) + ' ' +
-                                        catalogues.Directory().string();
-            std::size_t held = 0;
-            std::size_t peak = 0;
-            for ([[maybe_unused]] auto _ : state) {
-                const std::unique_ptr<FILE, int (*)(FILE*)> child(popen(command.c_str(), "r"),
-                                                                  pclose);
-                std::array<char, 64> line{};
-                if (std::fgets(line.data(), line.size(), child.get()) == nullptr ||
-                    !(std::istringstream(line.data()) >> held >> peak)) {
-                    throw std::runtime_error("failed: " + command);
-                }
-            }
-            state.counters["held_per_message"] =
-                static_cast<double>(held) / static_cast<double>(size);
-            state.counters["held_per_file"] = static_cast<double>(held) / file;
-            state.counters["peak_per_file"] = static_cast<double>(peak) / file;
-        })
-        ->Iterations(1)
-        ->Unit(benchmark::kMillisecond);
+MemoryUse MeasureMemoryApart(const Catalogues& catalogues, const SystemType& type) {
+    const auto self = std::filesystem::read_symlink("/proc/self/exe");
+    const std::string command = "exec " + self.string() + " --memory '" + type.name + "' " +
+                                std::to_string(catalogues.workload().Size()) + ' ' +
+                                catalogues.directory().string();
+    const std::unique_ptr<FILE, int (*)(FILE*)> child(popen(command.c_str(), "r"), pclose);
+    std::array<char, 64> line{};
+    MemoryUse use{};
+    if (std::fgets(line.data(), line.size(), child.get()) == nullptr ||
+        !(std::istringstream(line.data()) >> use.held >> use.peak)) {
+        throw std::runtime_error("failed: " + command);
+    }
+    return use;
 }
 
-void RegisterAll(Catalogues& catalogues, std::size_t size) {
+void RegisterMemory(Catalogues& catalogues, const SystemType& type) {
+    Register(catalogues, {"memory", type.name}, [&](benchmark::State& state) {
+        const auto file = static_cast<double>(file_size(catalogues.File(type)));
+        MemoryUse use{};
+        for ([[maybe_unused]] auto _ : state) {
+            use = MeasureMemoryApart(catalogues, type);
+        }
+        const auto held = static_cast<double>(use.held);
+        state.counters["held_per_message"] =
+            held / static_cast<double>(catalogues.workload().Size());
+        state.counters["held_per_file"] = held / file;
+        state.counters["peak_per_file"] = static_cast<double>(use.peak) / file;
+    })->Iterations(1);
+}
+
+void RegisterAll(Catalogues& catalogues) {
     constexpr std::size_t kMostParsed = 30000;  // patterns of more would take gigabytes
     for (const Kind kind : {Kind::Plain, Kind::Parameter, Kind::Plural}) {
         for (const SystemType* type : kTypes) {
-            RegisterRequests(catalogues, *type, kind, size);
+            RegisterRequests(catalogues, *type, kind);
         }
-        if (kind != Kind::Plain && size <= kMostParsed) {
-            RegisterRequests(catalogues, kIcuParsed, kind, size);
+        if (kind != Kind::Plain && catalogues.workload().Size() <= kMostParsed) {
+            RegisterRequests(catalogues, kIcuParsed, kind);
         }
     }
-    RegisterSecondLocalizer(catalogues, size);
-    RegisterReadingPass(catalogues, size);
+    RegisterSecondLocalizer(catalogues);
+    RegisterReadingPass(catalogues);
     // The others keep what they loaded until the process ends, so only these start more than once.
     for (const SystemType* type : {&kModule, &kBoostLocale, &kBoostLocaleWide}) {
-        RegisterStart(catalogues, *type, size);
+        RegisterStart(catalogues, *type);
     }
-    RegisterStage(catalogues, "reading and decoding", size, MeasureDecoding);
-    RegisterStage(catalogues, "parsing", size, MeasureParsing);
-    RegisterStage(catalogues, "compiling", size, MeasureCompiling);
+    RegisterStage(catalogues, "reading and decoding", MeasureDecoding);
+    RegisterStage(catalogues, "parsing", MeasureParsing);
+    RegisterStage(catalogues, "compiling", MeasureCompiling);
     for (const SystemType* type : kTypes) {
-        RegisterMemory(catalogues, *type, size);
-        RegisterThreads(catalogues, *type, size);
+        RegisterMemory(catalogues, *type);
+        RegisterThreads(catalogues, *type);
     }
-    RegisterMemory(catalogues, kBoostLocaleWide, size);
+    RegisterMemory(catalogues, kBoostLocaleWide);
 }
 
 int MeasureMemory(const std::string& name, const std::string& size, const std::string& directory) {
     for (const SystemType* type : {&kModule, &kGettext, &kIcu, &kBoostLocale, &kBoostLocaleWide}) {
         if (name == type->name) {
-            const MemoryUse use = MeasureMemory(*type, directory, std::stoul(size));
+            const MemoryUse use = MeasureMemory(*type, directory, Workload(std::stoul(size)));
             std::cout << use.held << ' ' << use.peak << '\n';
             return 0;
         }
@@ -234,8 +232,8 @@ int main(int argc, char** argv) try {
     }
     const auto files = std::filesystem::absolute("lm_bench_files");  // of an earlier version, too
     std::filesystem::remove_all(files);
-    Catalogues catalogues(files);
-    RegisterAll(catalogues, std::stoul(argv[1]));
+    Catalogues catalogues(files, std::stoul(argv[1]));
+    RegisterAll(catalogues);
     benchmark::RunSpecifiedBenchmarks();
     std::filesystem::remove_all(files);
     return 0;

@@ -29,13 +29,12 @@ std::size_t Resident() {
 }  // namespace
 
 MemoryUse MeasureMemory(const SystemType& type, const std::filesystem::path& directory,
-                        std::size_t size) {
-    const Workload workload(size);
+                        const Workload& workload) {
     const std::size_t before = Resident();
     if (!(std::ofstream("/proc/self/clear_refs") << 5).flush()) {
         throw std::runtime_error("cannot reset the process's peak of memory");
     }
-    const auto system = type.open(directory, size);
+    const auto system = type.open(directory);
     system->AnswerRightly(workload.All().front());
     const std::size_t peak = Status("VmHWM");
     for (const Request& request : workload.All()) {

@@ -14,6 +14,6 @@ struct MemoryUse {
 /// starting up to the first answer. Held is what is left once every text was asked for, since some
 /// systems load a text only then, and the heap's free pages were given back.
 MemoryUse MeasureMemory(const SystemType& type, const std::filesystem::path& directory,
-                        std::size_t size);
+                        const Workload& workload);
 
 }  // namespace lm_bench
