@@ -7,9 +7,17 @@
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
-/// Does nothing without a listener, not even converting the texts.
-void Notify(localization_manager::IResolveListener* listener,
+void Notify(localization_manager::IResolveListener& listener,
             localization_manager::ResolveKind kind, std::u16string_view source,
             std::u16string_view name, std::u16string_view value);
+
+/// Does nothing without a listener, not even converting the texts.
+inline void Notify(localization_manager::IResolveListener* listener,
+                   localization_manager::ResolveKind kind, std::u16string_view source,
+                   std::u16string_view name, std::u16string_view value) {
+    if (listener != nullptr) {
+        Notify(*listener, kind, source, name, value);
+    }
+}
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

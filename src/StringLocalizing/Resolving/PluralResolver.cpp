@@ -19,10 +19,9 @@ namespace {
 /// is not used itself because the process's global locale would change what it takes for a number.
 std::int64_t ParseNumber(std::u16string_view text) {
     // Units beyond ASCII become a character that no number holds.
-    std::string digits;
-    for (const char16_t unit : text) {
-        digits += unit < 0x80 ? static_cast<char>(unit) : '?';
-    }
+    std::string digits(text.size(), '?');
+    std::transform(text.begin(), text.end(), digits.begin(),
+                   [](char16_t unit) { return unit < 0x80 ? static_cast<char>(unit) : '?'; });
     const char* first = digits.data();
     const char* const last = first + digits.size();
     if (last - first > 1 && *first == '+' && first[1] != '-') {
