@@ -102,13 +102,9 @@ struct LanguageModel {
     Operands Form(const Model::OperandView& pluralForm) {
         std::vector<Model::ValueView> forms;
         ForEachForm(pluralForm, [&](Model::ValueView form) { forms.push_back(form); });
-        std::string digits;
         const qor::string16_t text = parameters.Resolve(qor::string16_t(pluralForm.text));
-        for (const char16_t unit : text.view()) {
-            digits += unit < 0x80 ? static_cast<char>(unit) : '?';
-        }
         std::int64_t number = 0;
-        if (!boost::conversion::try_lexical_convert(digits, number)) {
+        if (!boost::conversion::try_lexical_convert(lm_test::ToUtf8(text.view()), number)) {
             throw boost::bad_lexical_cast();
         }
         std::size_t form = 0;

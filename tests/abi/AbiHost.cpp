@@ -33,56 +33,6 @@ std::string ListedReports() {
 
 }  // namespace
 
-void* Allocator::Alloc(std::size_t size) {
-    constexpr auto kRelaxed = std::memory_order_relaxed;
-    if (failAt.load(kRelaxed) > 0 && failAt.fetch_sub(1, kRelaxed) == 1) {
-        return nullptr;
-    }
-    live_.fetch_add(1, kRelaxed);
-    return std::malloc(size);
-}
-
-void Allocator::Free(void* block) {
-    live_.fetch_sub(1, std::memory_order_relaxed);
-    std::free(block);
-}
-
-Result Tracer::RequestRecord(std::uint32_t level, char** record, std::uint32_t capacity) {
-    constexpr std::uint32_t kEnlarge = 1000;
-    const std::lock_guard<std::mutex> lock(openMutex_);
-    MaybeThrow();
-    std::pair<std::uint32_t, std::vector<char>> opened(level, {});
-    if (level == kEnlarge) {
-        opened = std::move(open_.at(*record));
-        open_.erase(*record);
-    }
-    opened.second.resize(capacity);
-    *record = opened.second.data();
-    open_.emplace(*record, std::move(opened));
-    return kOk;
-}
-
-Result Tracer::WriteRecord(char* buffer, std::uint32_t length) {
-    const std::lock_guard<std::mutex> lock(openMutex_);
-    Remember(std::to_string(open_.at(buffer).first) + ' ' + std::string(buffer, length));
-    open_.erase(buffer);
-    return kOk;
-}
-
-void Services::ExpectHeldBy(std::uint32_t objects) const {
-    EXPECT_EQ(References(), 1 + objects);
-    EXPECT_EQ(allocator.References(), 1 + objects);
-    EXPECT_EQ(tracer.References(), 1 + objects);
-}
-
-Result Services::GetService(std::uint32_t id, std::uintptr_t reserved, void** out) {
-    EXPECT_EQ(reserved, 0U);
-    HostObject* const service = id == kAllocatorId ? static_cast<HostObject*>(&allocator) : &tracer;
-    service->AddRef();
-    *out = service;
-    return kFalse;  // a success, too
-}
-
 Result GetObjectFactory(void* locator, std::uint32_t classId, void** out) {
     using Function = Result(void*, std::uint32_t, void**);
     return Export<Function>("qorGetObjectFactory")(locator, classId, out);
@@ -114,10 +64,11 @@ Result AbiTest::Init(const String16& root, const String16& alternative, ErrorLis
 
 Result AbiTest::CreateLocalizer(ManagerSlot slot, const String16& scopeOrText,
                                 const Culture& culture, ParamResolver* params, void** out,
-                                const String16& commonText) {
+                                const String16& commonText, const Object* by) {
+    by = by != nullptr ? by : &manager;
     return slot == kFromBuffers
-               ? manager.Call(slot, String16(u"x_"), scopeOrText, commonText, culture, params, out)
-               : manager.Call(slot, scopeOrText, culture, params, out);
+               ? by->Call(slot, String16(u"x_"), scopeOrText, commonText, culture, params, out)
+               : by->Call(slot, scopeOrText, culture, params, out);
 }
 
 Localizer AbiTest::MakeLocalizer(const String16& scope, const Culture& culture) {

@@ -68,6 +68,8 @@ struct Entry<Operation> {
     operator Slot() const { return reinterpret_cast<Slot>(&Run); }
 };
 
+inline constexpr auto kRelaxed = std::memory_order_relaxed;
+
 /// An object of the host. It lives in its scope; its count only tells who holds on to it, and orders
 /// no memory accesses, lest it hide a race of the module.
 class HostObject {
@@ -77,8 +79,8 @@ public:
     HostObject(const HostObject&) = delete;
     HostObject& operator=(const HostObject&) = delete;
 
-    std::uint32_t AddRef() { return references_.fetch_add(1, std::memory_order_relaxed) + 1; }
-    std::uint32_t Release() { return references_.fetch_sub(1, std::memory_order_relaxed) - 1; }
+    std::uint32_t AddRef() { return references_.fetch_add(1, kRelaxed) + 1; }
+    std::uint32_t Release() { return references_.fetch_sub(1, kRelaxed) - 1; }
     std::uint32_t References() const { return references_; }
 
     /// What the object was told since the last call, each in a line.
@@ -128,8 +130,17 @@ public:
     ~Allocator() { EXPECT_EQ(live_, 0) << "blocks never given back"; }
 
     int Live() const { return live_; }
-    void* Alloc(std::size_t size);
-    void Free(void* block);
+    void* Alloc(std::size_t size) {
+        if (failAt.load(kRelaxed) > 0 && failAt.fetch_sub(1, kRelaxed) == 1) {
+            return nullptr;
+        }
+        live_.fetch_add(1, kRelaxed);
+        return std::malloc(size);
+    }
+    void Free(void* block) {
+        live_.fetch_sub(1, kRelaxed);
+        std::free(block);
+    }
 
     /// The n-th call from now fails; 0 for none.
     std::atomic<int> failAt{0};
@@ -144,8 +155,27 @@ public:
     ~Tracer() { EXPECT_TRUE(open_.empty()) << "records never written"; }
 
 private:
-    Result RequestRecord(std::uint32_t level, char** record, std::uint32_t capacity);
-    Result WriteRecord(char* buffer, std::uint32_t length);
+    Result RequestRecord(std::uint32_t level, char** record, std::uint32_t capacity) {
+        constexpr std::uint32_t kEnlarge = 1000;
+        const std::lock_guard<std::mutex> lock(openMutex_);
+        MaybeThrow();
+        std::pair<std::uint32_t, std::vector<char>> opened(level, {});
+        if (level == kEnlarge) {
+            opened = std::move(open_.at(*record));
+            open_.erase(*record);
+        }
+        opened.second.resize(capacity);
+        *record = opened.second.data();
+        open_.emplace(*record, std::move(opened));
+        return kOk;
+    }
+
+    Result WriteRecord(char* buffer, std::uint32_t length) {
+        const std::lock_guard<std::mutex> lock(openMutex_);
+        Remember(std::to_string(open_.at(buffer).first) + ' ' + std::string(buffer, length));
+        open_.erase(buffer);
+        return kOk;
+    }
 
     std::mutex openMutex_;
     std::map<char*, std::pair<std::uint32_t, std::vector<char>>> open_;
@@ -156,13 +186,24 @@ public:
     Services() : HostObject({Entry<&Services::GetService>()}) {}
 
     /// Every object holds each service and the locator once.
-    void ExpectHeldBy(std::uint32_t objects) const;
+    void ExpectHeldBy(std::uint32_t objects) const {
+        EXPECT_EQ(References(), 1 + objects);
+        EXPECT_EQ(allocator.References(), 1 + objects);
+        EXPECT_EQ(tracer.References(), 1 + objects);
+    }
 
     Allocator allocator;
     Tracer tracer;
 
 private:
-    Result GetService(std::uint32_t id, std::uintptr_t reserved, void** out);
+    Result GetService(std::uint32_t id, std::uintptr_t reserved, void** out) {
+        EXPECT_EQ(reserved, 0U);
+        HostObject* const service =
+            id == kAllocatorId ? static_cast<HostObject*>(&allocator) : &tracer;
+        service->AddRef();
+        *out = service;
+        return kFalse;  // a success, too
+    }
 };
 
 /// The layout of the framework's strings, and the rules for whoever writes into one.
@@ -188,7 +229,18 @@ struct String {
         }
     }
 
-    void Assign(View text);
+    void Assign(View text) {
+        if (text.size() > capacity) {
+            const std::size_t bytes = (text.size() + 1) * sizeof(Char);
+            FreeStorage();
+            data = static_cast<Char*>(allocator != nullptr ? allocator->Alloc(bytes)
+                                                           : std::malloc(bytes));
+            capacity = static_cast<std::uint32_t>(text.size());
+        }
+        text.copy(data, text.size());
+        data[text.size()] = 0;
+        size = static_cast<std::uint32_t>(text.size());
+    }
     View Text() const {
         EXPECT_EQ(data[size], Char());
         return {data, size};
@@ -209,20 +261,6 @@ private:
         }
     }
 };
-
-template <class Char>
-void String<Char>::Assign(View text) {
-    if (text.size() > capacity) {
-        const std::size_t bytes = (text.size() + 1) * sizeof(Char);
-        FreeStorage();
-        data =
-            static_cast<Char*>(allocator != nullptr ? allocator->Alloc(bytes) : std::malloc(bytes));
-        capacity = static_cast<std::uint32_t>(text.size());
-    }
-    text.copy(data, text.size());
-    data[text.size()] = 0;
-    size = static_cast<std::uint32_t>(text.size());
-}
 
 using String8 = String<char>;
 using String16 = String<char16_t>;
@@ -362,8 +400,10 @@ protected:
 
     /// Has a localizer made from the name of its scope, or from its text in memory; the text is then
     /// of a scope whose name begins with "x_" if that can be chosen.
+    /// @param by  which manager makes it, when it is not the one below.
     Result CreateLocalizer(ManagerSlot slot, const String16& scopeOrText, const Culture& culture,
-                           ParamResolver* params, void** out, const String16& commonText = {});
+                           ParamResolver* params, void** out, const String16& commonText = {},
+                           const Object* by = nullptr);
     Localizer MakeLocalizer(const String16& scope, const Culture& culture = Culture());
 
     /// A text without what differs from run to run.

@@ -1,4 +1,6 @@
 // Who holds what and for how long, and whose memory texts live in.
+#include <tuple>
+
 #include "AbiHost.h"
 
 namespace {
@@ -40,39 +42,21 @@ TEST_F(LifetimeTest, LocalizerOutlivesTheManagerAndStreamsOutliveBoth) {
     EXPECT_EQ(std::string(bytes, read), "bytes");
 }
 
-TEST_F(LifetimeTest, NothingIsLostWhereverTheAllocatorFails) {
-    bool failed = true;
-    for (int call = 1; failed; ++call) {
-        services.allocator.failAt = call;
-        manager.Reset();
-        Localizer localizer;
-        Object stream;
-        failed =
-            Create(kManagerClass, kManagerId, manager) != kOk || Init(tree.Path()) != kOk ||
-            CreateLocalizer(kFromFiles, u"app", Culture(), &resolver, localizer.Out()) != kOk ||
-            localizer.Call(kGetStream, String16(u"file"), stream.Out()) != kOk;
-        EXPECT_EQ(services.tracer.Take().empty(), !failed);
-    }
-    services.allocator.failAt = 0;
-    services.ExpectHeldBy(2);  // the manager and its error listener
-}
-
 TEST_F(LifetimeTest, ResultIsWrittenWithTheMemoryOfTheCallersString) {
     Allocator memory;
     const Localizer localizer = MakeLocalizer(u"app");
     for (Allocator* const source : {&memory, static_cast<Allocator*>(nullptr)}) {
         String16 text(u"", source);
-        ASSERT_EQ(localizer.Call(kGetString, String16(u"t7"), &text), kOk);
-        EXPECT_TRUE(text.IsInline());
-        EXPECT_EQ(text.capacity, 7U);
-        ASSERT_EQ(localizer.Call(kGetString, String16(u"t8"), &text), kOk);
-        EXPECT_EQ(text.Text(), u"12345678");
-        EXPECT_FALSE(text.IsInline());
-        EXPECT_EQ(text.capacity, 14U);
-        ASSERT_EQ(localizer.Call(kGetString, String16(u"t15"), &text), kOk);
-        EXPECT_EQ(text.Text(), u"123456789012345");
+        for (const auto& [key, result, capacity] :
+             {std::tuple(u"t7", u"1234567", 7U), std::tuple(u"t8", u"12345678", 14U),
+              std::tuple(u"t15", u"123456789012345", 28U)}) {
+            ASSERT_EQ(localizer.Call(kGetString, String16(key), &text), kOk);
+            EXPECT_EQ(text.Text(), result);
+            EXPECT_EQ(text.IsInline(), capacity == 7);
+            EXPECT_EQ(text.capacity, capacity);
+            EXPECT_EQ(memory.Live(), source != nullptr && capacity > 7 ? 1 : 0);
+        }
         EXPECT_EQ(text.allocator, source);
-        EXPECT_EQ(memory.Live(), source != nullptr ? 1 : 0);
     }
     String16 text(u"before", &memory);
     memory.failAt = 1;

@@ -23,14 +23,14 @@ std::shared_ptr<std::FILE> LockedFile(const std::filesystem::path& path) {
 class LocalizerTest : public AbiTest {
 protected:
     LocalizerTest() {
-        tree.Write("neutral/Locs/common.lt", "Common = 'file'");
+        tree.Write("neutral/Locs/common.lt", "Common = missing");
         EXPECT_EQ(Init(tree.Path() + u"/", tree.Path("neutral"), &listener), kOk);
     }
 };
 
 TEST_F(LocalizerTest, MissingOrLockedSourceIsReported) {
     const auto locked = LockedFile(tree.Root() / "neutral/Locs/locked.lt");
-    for (const char16_t* scope : {u"none", u"locked"}) {
+    for (const char16_t* scope : {u"sub\\\u00E9", u"locked"}) {
         EXPECT_EQ(MakeLocalizer(scope).Call(kHasString, String16(u"a")), kUnspecifiedError);
     }
 }
@@ -51,18 +51,21 @@ TEST_F(LocalizerTest, BufferThatDoesNotParseIsNamedByItsScopeOrAsCommon) {
     }
 }
 
-TEST_F(LocalizerTest, BufferLocalizerTakesItsTextsFromMemoryAndImplementsNoOtherOperations) {
-    Localizer localizer;
-    ASSERT_EQ(CreateLocalizer(kFromBuffers, u"Own = Common", Culture(), nullptr, localizer.Out(),
-                              u"Common = 'memory'"),
-              kOk);
+TEST_F(LocalizerTest, BufferLocalizerHasItsOwnCommonTextsAndImplementsNoOtherOperations) {
+    Localizer early, late;
+    for (const auto& [localizer, text] : {std::pair(&early, u"early"), std::pair(&late, u"late")}) {
+        ASSERT_EQ(CreateLocalizer(kFromBuffers, u"Own = Common", Culture(), nullptr,
+                                  localizer->Out(), u"Common = '" + std::u16string(text) + u"'"),
+                  kOk);
+        EXPECT_EQ(localizer->Get(u"own"), text);
+    }
+    EXPECT_EQ(early.Get(u"common"), u"early");
     String16 result(u"before");
     for (const std::size_t slot : {kGetString, kGetStream, kHasResource, kGetPath}) {
-        EXPECT_EQ(localizer.Call(slot, nullptr, nullptr), kNotImplemented);
-        EXPECT_EQ(localizer.Call(slot, String16(u"own"), &result), kNotImplemented);
+        EXPECT_EQ(early.Call(slot, nullptr, nullptr), kNotImplemented);
+        EXPECT_EQ(early.Call(slot, String16(u"own"), &result), kNotImplemented);
     }
     EXPECT_EQ(result.Text(), u"before");
-    EXPECT_EQ(localizer.Get(u"own"), u"memory");
 }
 
 TEST_F(LocalizerTest, PathsAreAnsweredWithoutTexts) {
@@ -104,20 +107,35 @@ TEST_F(LocalizerTest, StreamReadsAndSeeks) {
     tree.Write("neutral/img/ten", "0123456789");
     Object stream;
     ASSERT_EQ(MakeLocalizer(u"img").Call(kGetStream, String16(u"ten"), stream.Out()), kOk);
-    char bytes[4];
-    std::uint32_t read = 77;
-    std::int64_t value = -1;
-    EXPECT_EQ(stream.Call(5, 2, std::int64_t{-3}, &value), kOk);
-    EXPECT_EQ(value, 7);
-    EXPECT_EQ(stream.Call(3, &bytes[0], 4U, &read), kOk);
-    EXPECT_EQ(std::string_view(bytes, read), "789");
-    EXPECT_EQ(stream.Call(5, 1, std::int64_t{-11}, &value), Code(0x80070083));
-    EXPECT_EQ(value, 7);
+    const struct {
+        std::int32_t origin;  // start, present position, end
+        std::int64_t offset, position;
+        std::string_view bytes;
+        Result code = kOk;  // of a seek; a failed one moves nothing
+    } cases[] = {{0, 0, 0, "0123"},
+                 {1, 2, 6, "6789"},
+                 {0, 8, 8, "89"},
+                 {2, -3, 7, "789"},
+                 {2, 100, 110, ""},
+                 {0, 4, 4, "4567"},
+                 {0, -1, 8, "89", Code(0x80070083)},
+                 {1, -11, 10, "", Code(0x80070083)},
+                 {1, INT64_MAX, 10, "", kInvalidArgument}};
+    for (const auto& [origin, offset, position, bytes, code] : cases) {
+        std::int64_t reached = -7;
+        EXPECT_EQ(stream.Call(5, origin, offset, &reached), code) << offset;
+        EXPECT_EQ(reached, code == kOk ? position : -7);
+        EXPECT_EQ(stream.Call(6, &reached), kOk);
+        EXPECT_EQ(reached, position);
+        char buffer[4];
+        std::uint32_t read = 77;
+        EXPECT_EQ(stream.Call(3, &buffer[0], 4U, &read), kOk);
+        EXPECT_EQ(std::string_view(buffer, read), bytes);
+    }
+    std::int64_t size = 0;
+    EXPECT_EQ(stream.Call(7, &size), kOk);
+    EXPECT_EQ(size, 10);
     EXPECT_EQ(stream.Call(5, 0, std::int64_t{3}, nullptr), kOk);
-    EXPECT_EQ(stream.Call(6, &value), kOk);
-    EXPECT_EQ(value, 3);
-    EXPECT_EQ(stream.Call(7, &value), kOk);
-    EXPECT_EQ(value, 10);
     for (const std::size_t slot : {4U, 8U, 9U}) {
         EXPECT_EQ(stream.Call(slot), kNotSupported);
     }

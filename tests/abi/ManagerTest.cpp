@@ -2,6 +2,7 @@
 #include <stdexcept>
 
 #include "AbiHost.h"
+#include "ErrorText.h"
 
 namespace {
 
@@ -24,14 +25,12 @@ TEST_F(ManagerTest, UninitialisedManagerMakesNoLocalizer) {
     EXPECT_EQ(listener.References(), 1U);
     EXPECT_EQ(CreateLocalizer(kFromFiles, u"app", Culture(), nullptr, &out), kInvalidState);
     for (const ManagerSlot slot : {kFromBuffer, kFromBuffers}) {
-        try {
+        const auto create = [&, slot = slot] {
             CreateLocalizer(slot, u"a = 'x'", Culture(), nullptr, &out);
-            ADD_FAILURE() << "no exception";
-        } catch (const std::runtime_error& caught) {
-            EXPECT_EQ(Shown(caught.what()),
-                      "Contract Violation! Violated argument 'resourceProvider_' at <function> at "
-                      "src\\File/buffer_resource_provider:25Description: unexpected null pointer");
-        }
+        };
+        EXPECT_EQ(Shown(lm_test::ErrorText<std::runtime_error>(create)),
+                  "Contract Violation! Violated argument 'resourceProvider_' at <function> at "
+                  "src\\File/buffer_resource_provider:25Description: unexpected null pointer");
         EXPECT_EQ(out, this);
     }
     ASSERT_EQ(Init(tree.Path("a")), kOk);
@@ -43,7 +42,7 @@ TEST_F(ManagerTest, UninitialisedManagerMakesNoLocalizer) {
 TEST_F(ManagerTest, UnusableDirectoriesAreTracedAndLeaveTheProviderInUse) {
     ASSERT_EQ(Init(tree.Path("a")), kOk);
     EXPECT_EQ(Init(tree.Path("none"), u"", &listener), kUnspecifiedError);
-    EXPECT_EQ(Init(tree.Path("b"), tree.Path("none")), kUnspecifiedError);
+    EXPECT_EQ(Init(tree.Path("b"), tree.Path("b/neutral/Locs/app.lt/x")), kUnspecifiedError);
     EXPECT_EQ(MakeLocalizer(u"app").Get(u"own"), u"a");
     services.allocator.failAt = 1;
     EXPECT_EQ(Init(tree.Path("b")), kUnspecifiedError);
@@ -111,6 +110,15 @@ TEST_F(ManagerTest, CommonTextsAreParsedOncePerRememberedCulture) {
     EXPECT_EQ(MakeLocalizer(u"app", Culture(8, "au", "v")).Get(u"common"), u"new");
     EXPECT_EQ(MakeLocalizer(u"app", culture).Get(u"common"), u"new");
     EXPECT_EQ(late.Get(u"common"), u"a");  // keeps the texts that it was made with
+
+    tree.Write("a/neutral/Locs/common.lt", "; nothing yet");
+    const Localizer early = MakeLocalizer(u"app");
+    EXPECT_EQ(early.Get(u"own"), u"a");
+    tree.Write("a/neutral/Locs/common.lt", "Common = 'before' Fault =");
+    EXPECT_EQ(MakeLocalizer(u"app").Call(kHasString, String16(u"own")), kUnspecifiedError);
+    tree.Write("a/neutral/Locs/common.lt", "Common = 'mended' Fault = ''");
+    EXPECT_EQ(MakeLocalizer(u"app").Get(u"common"), u"before");  // is not loaded again
+    EXPECT_EQ(early.Call(kHasString, String16(u"common")), kUnspecifiedError);
 }
 
 }  // namespace

@@ -2,16 +2,11 @@
 #include "FileContent.h"
 
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <boost/numeric/conversion/cast.hpp>
 
-#include "ErrorText.h"
 #include "TempTree.h"
-#include "qor/rtl/contracts/QorCallFailedException.h"
 
 namespace {
 
@@ -29,33 +24,11 @@ TEST(FileContentTest, TextIsUtf8WithoutMarkAndZerosAtTheEnd) {
         {"a\0b\0"sv, u"a\0b"sv},
         {"\xEF\xBB\xBF\0\0"sv, u"\0\0\0\0\0"sv},
         {"\xD0\xB0\xF0\x9D\x84\x9E\r\n", u"\u0430\U0001D11E\r\n"},
-        {"x\xF0\x9D\x84y\xC0\x80\xED\xA0", u"x\uFFFDy\uFFFD\uFFFD\uFFFD\uFFFD"},
     };
     for (const auto& [bytes, text] : cases) {
         tree.Write("text", bytes);
         EXPECT_TRUE(GetFileContent(tree.Path("text")) == text) << testing::PrintToString(bytes);
     }
-}
-
-TEST(FileContentTest, WhatIsNoReadableFileIsNamedAtOnce) {
-    const lm_test::TempTree tree;
-    std::filesystem::create_directory(tree.Root() / "directory");
-    std::filesystem::create_symlink("/dev/zero", tree.Root() / "device");
-    ASSERT_EQ(::mkfifo((tree.Root() / "fifo").c_str(), 0600), 0);
-    const int locked = ::open(tree.Write("locked", "text").c_str(), O_RDONLY | O_CLOEXEC);
-    ASSERT_EQ(::flock(locked, LOCK_EX | LOCK_NB), 0);
-    const std::pair<const char*, const char*> cases[] = {
-        {"missing", "File not found"},  {"locked/file", "Path not found"},
-        {"directory", "Access denied"}, {"locked", "Sharing violation"},
-        {"fifo", "Access denied"},      {"device", "Access denied"},
-    };
-    for (const auto& [name, error] : cases) {
-        const std::string text = lm_test::ErrorText<LocalizationManager::QorCallFailedException>(
-            [path = tree.Path(name)] { GetFileContent(path); });
-        EXPECT_EQ(text.substr(text.rfind(" at ")),
-                  " at src\\file\\FileStream:107Description: Cannot open file, error: "s + error);
-    }
-    ::close(locked);
 }
 
 TEST(FileContentTest, AFileOfTwoGibibytesAndMoreIsRefusedUnread) {

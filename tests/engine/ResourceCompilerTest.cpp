@@ -6,6 +6,7 @@
 #include <boost/make_shared.hpp>
 #include <chrono>
 
+#include "Cases.h"
 #include "DictionaryText.h"
 #include "ErrorText.h"
 #include "RootExpressionProvider.h"
@@ -13,7 +14,6 @@
 namespace {
 
 using namespace LocalizationManager::StringLocalizing;
-using lm_test::MakeValue;
 using lm_test::ParseDictionary;
 using lm_test::PrintDictionary;
 
@@ -35,31 +35,13 @@ protected:
 };
 
 TEST_F(ResourceCompilerTest, ReferencesAreInlinedTextsJoinedAndUnfinishedValuesLeftAlone) {
-    const struct {
-        const char16_t *common, *scope;
-        const char *compiled, *error = "no exception";
-    } cases[] = {
-        {u"", u"a='Hello, '+b+'!' b='world' c=''+''", R"(a = "Hello, world!";b = "world";c = "";)"},
-        {u"", u"b=c+a+c a=$p+'1' c='2'+$q",
-         R"(a = $p + "1";b = "2" + $q + $p + "12" + $q;c = "2" + $q;)"},
-        {u"", u"a='x'+{$n:b+'1'+'2'}+'y'+'z' b='b'",
-         R"(a = "x" + {$n: b + "1" + "2"} + "yz";b = "b";)"},
-        {u"k='common'+m m='!' own='common'", u"a=k+own own='scope'",
-         R"(k = "common!";m = "!";own = "common";a = "common!scope";own = "scope";)"},
-        {u"", u"a=a", "a = a;", "Cyclic reference found:(a->a)"},
-        {u"", u"a='1'+b b='2'+c c='3'+b", R"(a = "1" + b;b = "2" + c;c = "3" + b;)",
-         "Cyclic reference found:a->(b->c->b)"},
-        {u"", u"a=y+'1' b=y+z y='2'+'3' z=b", R"(a = "231";b = y + z;y = "23";z = b;)",
-         "Cyclic reference found:(b->z->b)"},
-        {u"", u"a='1'+'2' b=a+missing d='5'+'6'", R"(a = "12";b = a + missing;d = "5" + "6";)",
-         "Key 'missing' not found"},
-        {u"k=own", u"own=''+''", R"(k = own;own = "" + "";)", "Key 'own' not found"},
-    };
-    for (const auto& expected : cases) {
-        *common_ = ParseDictionary(expected.common);
-        *scope_ = ParseDictionary(expected.scope);
-        EXPECT_EQ(Compile(), expected.error);
-        EXPECT_EQ(PrintDictionary(*common_) + PrintDictionary(*scope_), expected.compiled);
+    for (const auto& [sources, compiled] : lm_test::ReadCases("compiled_texts.txt")) {
+        const std::size_t bar = sources.find(u'|');
+        *common_ = ParseDictionary(sources.substr(0, bar));
+        *scope_ = ParseDictionary(sources.substr(bar + 1));
+        const std::string error = Compile();
+        EXPECT_EQ(PrintDictionary(*common_) + '|' + PrintDictionary(*scope_) + '|' + error,
+                  compiled);
     }
 }
 
@@ -67,7 +49,7 @@ TEST_F(ResourceCompilerTest, CompilingAgainWritesNothing) {
     *scope_ = ParseDictionary(u"a=b+$p+c b='x'+'y' c={$n:a,b} d='plain'");
     std::vector<const char16_t*> places[2];
     for (auto& compiled : places) {
-        EXPECT_EQ(Compile(), "no exception");
+        EXPECT_EQ(Compile(), "");
         for (const auto& entry : lm_test::EntriesOf(*scope_)) {
             compiled.push_back(entry.second.code().data());
         }
@@ -77,21 +59,19 @@ TEST_F(ResourceCompilerTest, CompilingAgainWritesNothing) {
 
 TEST_F(ResourceCompilerTest, LongChainsNeitherRecurseNorTakeSquareTime) {
     constexpr int kLength = 100'000;
-    const auto key = [](char prefix, int number) {
-        const std::string text = prefix + std::to_string(1'000'000 + number);
-        return std::u16string(text.begin(), text.end());
-    };
+    std::string source = "end='x'";
     for (int i = 0; i < kLength; ++i) {
-        scope_->Add(key('a', i), MakeValue({Model::KeyRef{key('a', i + 1)}}));
-        scope_->Add(key('b', i), MakeValue({Model::KeyRef{key('a', 0)}, std::u16string(u"!")}));
+        const std::string number = std::to_string(i);
+        const std::string next = i + 1 < kLength ? 'a' + std::to_string(i + 1) : "end";
+        source.append(" a").append(number).append("=").append(next);
+        source.append(" b").append(number).append("=a0+'!'");
     }
-    scope_->Add(key('a', kLength), MakeValue({std::u16string(u"end")}));
+    *scope_ = ParseDictionary({source.begin(), source.end()});
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(Compile(), "no exception");
+    EXPECT_EQ(Compile(), "");
     // Far above what one walk over all entries takes, far below a walk for each of them.
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
-    EXPECT_EQ(lm_test::PrintValue(scope_->At(*scope_->Find(key('b', kLength - 1))).value),
-              R"("end!")");
+    EXPECT_EQ(lm_test::PrintValue(scope_->At(*scope_->Find(u"b99999")).value), "'x!'");
 }
 
 }  // namespace

@@ -14,19 +14,24 @@ std::u16string Key(int number) {
     return u"key" + std::u16string(digits.begin(), digits.end());
 }
 
+Value ValueOf(const Operand& operand) {
+    Value value;
+    Append(value, operand);
+    return value;
+}
+
 /// All keys are found, once each and with their own values, and no others.
 void ExpectFinds(const std::vector<std::u16string>& keys) {
     ResourceDictionary dictionary;
     for (const std::u16string& key : keys) {
         EXPECT_FALSE(dictionary.Find(key));
-        EXPECT_TRUE(dictionary.Add(key, lm_test::MakeValue({KeyRef{key}})));
+        EXPECT_TRUE(dictionary.Add(key, ValueOf(KeyRef{key})));
         EXPECT_FALSE(dictionary.Add(key, {}));
         EXPECT_TRUE(dictionary.Find(key));
     }
     for (std::size_t i = 0; i < keys.size(); ++i) {
         if (i % 3 == 0) {
-            dictionary.Replace(dictionary.Find(keys[i]).value(),
-                               lm_test::MakeValue({Param{keys[i]}}), 1);
+            dictionary.Replace(dictionary.Find(keys[i]).value(), ValueOf(Param{keys[i]}), 1);
         }
         const auto [key, value] = dictionary.At(dictionary.Find(keys[i]).value());
         EXPECT_EQ(key, keys[i]);

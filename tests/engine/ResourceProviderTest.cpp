@@ -8,13 +8,11 @@
 #include "FileResourceProvider.h"
 #include "TempTree.h"
 #include "Utf8.h"
-#include "qor/rtl/contracts/QorCallFailedException.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using namespace LocalizationManager::File;
-using lm_test::ErrorText;
 using localization_manager::Culture;
 using LocalizationManager::Text::ToUtf8;
 using L = localization_manager::Language;
@@ -79,8 +77,6 @@ TEST_F(FileResourceProviderTest, BothSeparatorsCountAndWhateverExistsIsAcceptedA
         EXPECT_EQ(provider.GetResourcePath(scope, kGerman, file), tree_.Path(path));
     }
     EXPECT_THROW(Over(u"file").GetResource(u"app", kGerman), std::runtime_error);
-    EXPECT_THROW(Over(u"none", u"none"), LocalizationManager::QorCallFailedException);
-    EXPECT_THROW(Over(u"root", u"file/x"), LocalizationManager::QorCallFailedException);
 }
 
 TEST_F(FileResourceProviderTest, PluralRulesAreThoseOfTheRegionOrElseOfTheLanguageInTheRoot) {
@@ -91,48 +87,12 @@ TEST_F(FileResourceProviderTest, PluralRulesAreThoseOfTheRegionOrElseOfTheLangua
     FileResourceProvider provider = Over(u"r", u"a");
     const PluralFormRuleId id(L::Portuguese, "br");
     EXPECT_FALSE(provider.HasPluralFormRules(id));
+    EXPECT_EQ(lm_test::ErrorText([&] { provider.GetPluralFormRules(id); }),
+              "cannot find plural form file for id 'pt-br'");
     for (const char* file : {"r/pt/Plural.rule", "r/pt/br/Plural.rule"}) {
         tree_.Write(file, "");
         EXPECT_EQ(provider.GetPluralFormRules(id).sourceName, tree_.Path(file));
     }
-}
-
-/// The parameter: whether the texts of "app" and the common ones are in memory, in front of files.
-class ResourceProviderTest : public testing::TestWithParam<bool> {
-protected:
-    ResourceProviderTest() {
-        tree_.Write("de/Locs/app.lt", GetParam() ? "hidden" : "app text");
-        tree_.Write("de/Locs/common.lt", GetParam() ? "hidden" : "common text");
-        tree_.Write("de/Locs/other.lt", "other text");
-        if (GetParam()) {
-            provider_ = boost::make_shared<BufferResourceProvider>(provider_, u"app", u"app text",
-                                                                   u"common text");
-        }
-    }
-
-    const lm_test::TempTree tree_;
-    boost::shared_ptr<LocalizationManager::StringLocalizing::Pipeline::IResourceProvider>
-        provider_ = boost::make_shared<FileResourceProvider>(tree_.Path(), u"");
-};
-
-INSTANTIATE_TEST_SUITE_P(FileAndBuffer, ResourceProviderTest, testing::Bool());
-
-TEST_P(ResourceProviderTest, SourcesRulesAndPathsAreFoundOrNamedAsMissing) {
-    for (const std::u16string name : {u"app", u"common", u"other"}) {
-        EXPECT_EQ(provider_->GetResource(name, kGerman).content, name + u" text");
-    }
-    EXPECT_EQ(ErrorText([&] { provider_->GetResource(u"sub\\\u00E9", kGerman); }),
-              "cannot find localization file 'sub\\\xC3\xA9.lt'");
-    const PluralFormRuleId id(kGerman);
-    EXPECT_FALSE(provider_->HasPluralFormRules(id));
-    EXPECT_EQ(ErrorText([&] { provider_->GetPluralFormRules(id); }),
-              "cannot find plural form file for id 'de-br'");
-    tree_.Write("de/Plural.rule", "rules");
-    EXPECT_TRUE(provider_->HasPluralFormRules(id));
-    EXPECT_EQ(provider_->GetPluralFormRules(id).content, u"rules");
-    const std::u16string path = tree_.Path("de/Locs/app.lt");
-    EXPECT_EQ(provider_->GetResourcePath(u"Locs", kGerman, u"app.lt"), path);
-    EXPECT_EQ(provider_->GetResourcePath(u"Locs", kGerman, u"none.lt"), u"");
 }
 
 TEST(BufferResourceProviderTest, TextsServeEveryCultureUnderTheirExactNamesOnly) {
@@ -145,17 +105,10 @@ TEST(BufferResourceProviderTest, TextsServeEveryCultureUnderTheirExactNamesOnly)
         for (const char16_t* name : {u"app", u"Common", common.empty() ? u"common" : u""}) {
             EXPECT_THROW(provider.GetResource(name, kUnsupported), std::range_error) << "a file's";
         }
+        EXPECT_THROW(provider.GetResourcePath(u"App", kUnsupported, u"x"), std::range_error);
         BufferResourceProvider clash(files, u"common", u"", common);
         EXPECT_EQ(clash.GetResource(u"common", kUnsupported).content, common);
     }
-}
-
-TEST(BufferResourceProviderTest, NothingToWrapIsRefused) {
-    using Null = code_contracts::NullPointerException<code_contracts::InvariantViolationException>;
-    const auto text = ErrorText<Null>([] { BufferResourceProvider(nullptr, u"", u"", u""); });
-    EXPECT_EQ(text.find("Contract Violation! Violated argument 'resourceProvider_' at "), 0U);
-    EXPECT_EQ(text.substr(text.rfind(" at ")),
-              " at src\\File/buffer_resource_provider:25Description: unexpected null pointer");
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iostream>
 #include <iterator>
 #include <new>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Faults.h"
@@ -25,6 +25,7 @@ namespace {
 namespace lm = localization_manager;
 namespace faults = lm_test::faults;
 using lm::host::Make;
+using qor::result_t;
 using qor::string16_t;
 
 constexpr const char* kAppTexts =
@@ -32,7 +33,7 @@ constexpr const char* kAppTexts =
     "Count = $n + {$n: ' file that nobody needs', ' files that nobody needs'}\n";
 constexpr const char* kCommonTexts = "Brand = 'a company with a long name' Long = Brand + Brand\n";
 
-constexpr const char* kPicture = "12345678";
+constexpr std::string_view kPicture = "12345678";
 
 /// A host with everything that a request needs, and what requests gave it.
 class Host {
@@ -42,28 +43,88 @@ public:
         culture.language = lm::Language::English;
     }
 
+    result_t CreateManager() { return Create(lm::class_id::LocalizationManager, manager); }
+
+    result_t Init() { return manager->Init(root, root); }
+
+    result_t InitEx() { return manager->InitEx(root, root, errors); }
+
+    result_t CreateLocalizer() {
+        return manager->CreateLocalizer(app, culture, resolver.get(), localizer.Ref());
+    }
+
+    result_t CreateFromBuffer() {
+        return manager->CreateLocalizerFromBuffer(texts, culture, resolver.get(), localizer.Ref());
+    }
+
+    result_t CreateFromBuffers() {
+        return manager->CreateBufferLocalizer(app, texts, commonTexts, culture, resolver.get(),
+                                              localizer.Ref());
+    }
+
+    result_t Greet() { return Ask(u"Hello", u"Hello from a company with a long name"); }
+
+    result_t Count() { return Ask(u"Count", u"5 files that nobody needs"); }
+
+    result_t Look() { return localizer->HasString(hello); }
+
+    result_t FindPath() { return Checked(localizer->GetPath(picture, text), picturePath.view()); }
+
+    result_t FindResource() { return localizer->HasResource(picture); }
+
+    result_t Stream() {
+        stream = nullptr;
+        const result_t code = localizer->GetStream(picture, stream.Ref());
+        return static_cast<bool>(stream) == qor::Failed(code) ? qor::rcUnexpected : code;
+    }
+
+    result_t ReadStream() {
+        char bytes[8] = "";
+        std::uint32_t count = 0;
+        std::int64_t size = 0;
+        if (const result_t code = stream->GetSize(&size); qor::Failed(code)) {
+            return code;
+        }
+        stream->Seek(qor::seek_origin::Start, 0, nullptr);
+        const result_t code = stream->Read(bytes, sizeof bytes, &count);
+        const bool isRead =
+            count > 0 && kPicture.substr(0, count) == std::string_view(bytes, count);
+        return isRead || qor::Failed(code) ? code : qor::rcUnexpected;
+    }
+
+    result_t Convert() {
+        const qor::string8_t name("en-a-long-region");
+        qor::objptr_t<lm::ICultureConverter> converter;
+        const result_t code = Create(lm::class_id::CultureConverter, converter);
+        return qor::Failed(code) ? code : converter->GetCultureByIsoName(name, culture);
+    }
+
+    std::size_t reports = 0;
+
+private:
     template <class Interface>
-    qor::result_t Create(std::uint32_t classId, qor::objptr_t<Interface>& object) const {
+    result_t Create(std::uint32_t classId, qor::objptr_t<Interface>& object) const {
         qor::objptr_t<qor::IObjectFactory> factory;
-        const qor::result_t code =
+        const result_t code =
             qorGetObjectFactory(services.get(), classId, reinterpret_cast<void**>(factory.Ref()));
         return qor::Failed(code) ? code
                                  : factory->CreateObject(services.get(), Interface::InterfaceId,
                                                          reinterpret_cast<void**>(object.Ref()));
     }
 
-    /// Asks for a text, which is the expected one or untouched.
-    qor::result_t Ask(const string16_t& key, std::u16string_view expected) {
-        const bool failed = qor::Failed(localizer->GetResolvedString(key, text, listener.get()));
-        const bool asExpected = text.view() == (failed ? std::u16string_view(u"before") : expected);
-        text = before;
-        return !asExpected ? qor::rcUnexpected : failed ? qor::rcUnspecifiedError : qor::rcOk;
+    result_t Ask(const string16_t& key, std::u16string_view expected) {
+        return Checked(localizer->GetResolvedString(key, text, listener.get()), expected);
     }
 
-    const string16_t root;
-    const string16_t picturePath;
+    /// The code, if the text is the expected one, or untouched after a failure.
+    result_t Checked(result_t code, std::u16string_view expected) {
+        const bool isRight = text.view() == (qor::Failed(code) ? before.view() : expected);
+        text = before;
+        return isRight ? code : qor::rcUnexpected;
+    }
+
+    const string16_t root, picturePath;
     lm::Culture culture;
-    std::size_t reports = 0;
     qor::objptr_t<lm::host::ServiceLocator> services =
         Make<lm::host::ServiceLocator>([this](auto, auto) { ++reports; });
     qor::objptr_t<lm::IErrorListener> errors =
@@ -75,115 +136,56 @@ public:
     qor::objptr_t<lm::ILocalizationManager> manager;
     qor::objptr_t<lm::ILocalizer> localizer;
     qor::objptr_t<qor::IIO> stream;
-
-    const string16_t app{u"app"};
-    const string16_t appTexts = lm::host::ToString16(kAppTexts);
+    const string16_t app{u"app"}, hello{u"Hello"}, picture{u"picture.bin"}, before{u"before"};
+    const string16_t texts = lm::host::ToString16(kAppTexts);
     const string16_t commonTexts = lm::host::ToString16(kCommonTexts);
-    const string16_t hello{u"Hello"};
-    const string16_t count{u"Count"};
-    const string16_t picture{u"picture.bin"};
-    const string16_t before{u"before"};
     string16_t text = before;
 };
 
-qor::result_t CreateManager(Host& host) {
-    return host.Create(lm::class_id::LocalizationManager, host.manager);
-}
-
-qor::result_t Initialise(Host& host) {
-    return host.manager->Init(host.root, host.root);
-}
-
-qor::result_t InitialiseWithListener(Host& host) {
-    return host.manager->InitEx(host.root, host.root, host.errors);
-}
-
-qor::result_t CreateLocalizer(Host& host) {
-    return host.manager->CreateLocalizer(host.app, host.culture, host.resolver.get(),
-                                         host.localizer.Ref());
-}
-
-qor::result_t CreateFromBuffer(Host& host) {
-    return host.manager->CreateLocalizerFromBuffer(host.appTexts, host.culture, host.resolver.get(),
-                                                   host.localizer.Ref());
-}
-
-qor::result_t CreateFromBuffers(Host& host) {
-    return host.manager->CreateBufferLocalizer(host.app, host.appTexts, host.commonTexts,
-                                               host.culture, host.resolver.get(),
-                                               host.localizer.Ref());
-}
-
-qor::result_t Greet(Host& host) {
-    return host.Ask(host.hello, u"Hello from a company with a long name");
-}
-
-qor::result_t Count(Host& host) {
-    return host.Ask(host.count, u"5 files that nobody needs");
-}
-
-qor::result_t Look(Host& host) {
-    return host.localizer->HasString(host.hello);
-}
-
-qor::result_t FindPath(Host& host) {
-    const qor::result_t code = host.localizer->GetPath(host.picture, host.text);
-    const bool isRight = host.text == (qor::Failed(code) ? host.before : host.picturePath);
-    host.text = host.before;
-    return isRight ? code : qor::rcUnexpected;
-}
-
-qor::result_t FindResource(Host& host) {
-    return host.localizer->HasResource(host.picture);
-}
-
-qor::result_t Stream(Host& host) {
-    host.stream = nullptr;
-    const qor::result_t code = host.localizer->GetStream(host.picture, host.stream.Ref());
-    return static_cast<bool>(host.stream) == qor::Failed(code) ? qor::rcUnexpected : code;
-}
-
-qor::result_t ReadStream(Host& host) {
-    char bytes[8] = "";
-    std::uint32_t count = 0;
-    std::int64_t size = 0;
-    const qor::result_t asked = host.stream->GetSize(&size);
-    host.stream->Seek(qor::seek_origin::Start, 0, nullptr);
-    const qor::result_t code =
-        qor::Failed(asked) ? asked : host.stream->Read(bytes, sizeof bytes, &count);
-    const std::string_view read(bytes, count);
-    const bool isRead = count > 0 && std::string_view(kPicture).substr(0, count) == read;
-    return isRead || qor::Failed(code) ? code : qor::rcUnexpected;
-}
-
-qor::result_t Convert(Host& host) {
-    const qor::string8_t name("en-a-long-region");
-    qor::objptr_t<lm::ICultureConverter> converter;
-    const qor::result_t code = host.Create(lm::class_id::CultureConverter, converter);
-    return qor::Failed(code) ? code : converter->GetCultureByIsoName(name, host.culture);
-}
-
-using Request = qor::result_t (*)(Host& host);
+using Request = result_t (Host::*)();
+using Requests = std::vector<Request>;
+enum Trait : unsigned { kThrows = 1, kReports = 2, kUsesFiles = 4 };
 
 struct Case {
     const char* name;
-    std::vector<Request> preparations;
+    Requests preparations;
     Request request;
-    bool throws;                       // std::bad_alloc may leave it
-    std::vector<qor::result_t> codes;  // of its failures
-    bool reports;                      // in words, unless memory is short for them
-    bool usesFiles;                    // or memory alone
+    /// Whether std::bad_alloc may leave it, whether it reports failures in words, unless memory is
+    /// short for them, and whether it needs files, or memory alone.
+    unsigned traits;
+    std::vector<result_t> codes;  // of its failures
+
+    bool Has(Trait trait) const { return (traits & trait) != 0; }
 };
 
-std::ostream& operator<<(std::ostream& out, const Case& tested) {
-    return out << tested.name;
-}
+const result_t kFails = qor::rcUnspecifiedError;
+const result_t kNoMemory = qor::rcOutOfMemory;
+const Requests kMade = {&Host::CreateManager};
+const Requests kInit = {&Host::CreateManager, &Host::Init};
+const Requests kReady = {&Host::CreateManager, &Host::InitEx, &Host::CreateLocalizer};
+const Requests kBuilt = {&Host::CreateManager, &Host::InitEx, &Host::CreateLocalizer, &Host::Greet};
+const Requests kOpen = {&Host::CreateManager, &Host::InitEx, &Host::CreateLocalizer, &Host::Stream};
+const Requests kBuffer = {&Host::CreateManager, &Host::Init, &Host::CreateFromBuffer};
+const Requests kBuffers = {&Host::CreateManager, &Host::Init, &Host::CreateFromBuffers};
 
-const qor::result_t kFails = qor::rcUnspecifiedError;
-const std::vector<Request> kReady = {CreateManager, InitialiseWithListener, CreateLocalizer};
-const std::vector<Request> kBuilt = {CreateManager, InitialiseWithListener, CreateLocalizer, Greet};
-const std::vector<Request> kOpened = {CreateManager, InitialiseWithListener, CreateLocalizer,
-                                      Stream};
+const Case kCases[] = {
+    {"creation", {}, &Host::CreateManager, 0, {kNoMemory}},
+    {"initialisation", kMade, &Host::Init, kReports | kUsesFiles, {kFails}},
+    {"listener", kMade, &Host::InitEx, kReports | kUsesFiles, {kFails}},
+    {"localizer", kInit, &Host::CreateLocalizer, kReports, {kFails}},
+    {"first", kReady, &Host::Greet, kReports | kUsesFiles, {kFails}},
+    {"firstLook", kReady, &Host::Look, kReports | kUsesFiles, {kFails}},
+    {"later", kBuilt, &Host::Count, kReports, {kFails}},
+    {"path", kReady, &Host::FindPath, kUsesFiles, {kFails, qor::rcNotFound}},
+    {"resource", kReady, &Host::FindResource, kThrows | kUsesFiles, {kFails, kNoMemory}},
+    {"stream", kReady, &Host::Stream, kUsesFiles, {kFails, qor::rcNotFound}},
+    {"read", kOpen, &Host::ReadStream, kUsesFiles, {kFails}},
+    {"buffer", kInit, &Host::CreateFromBuffer, kThrows, {kFails, kNoMemory}},
+    {"buffers", kInit, &Host::CreateFromBuffers, kThrows, {kFails, kNoMemory}},
+    {"bufferFirst", kBuffer, &Host::Greet, kReports | kUsesFiles, {kFails}},
+    {"buffersFirst", kBuffers, &Host::Greet, kReports | kUsesFiles, {kFails}},
+    {"converter", {}, &Host::Convert, kThrows, {kNoMemory}},
+};
 
 class FaultTest : public testing::TestWithParam<Case> {
 protected:
@@ -201,154 +203,94 @@ protected:
     bool Try(faults::Source source, std::size_t first, bool lasts, const faults::Deed& deed) const {
         Host host(tree);
         for (const Request prepare : GetParam().preparations) {
-            EXPECT_EQ(prepare(host), qor::rcOk);
+            EXPECT_EQ((host.*prepare)(), qor::rcOk);
         }
         host.reports = 0;
-        qor::result_t code = qor::rcOk;
+        result_t code = qor::rcOk;
         faults::Start(source, first, lasts, deed);
         try {
-            code = GetParam().request(host);
+            code = (host.*GetParam().request)();
         } catch (const std::bad_alloc&) {
-            code = GetParam().throws ? qor::rcOutOfMemory : qor::rcUnexpected;
+            code = GetParam().Has(kThrows) ? kNoMemory : qor::rcUnexpected;
         }
         const bool met = faults::Stop();
-        ExpectFailure(code, met, source == faults::Source::Files ? host.reports : 1);
+        if (code != qor::rcOk) {
+            const auto& codes = GetParam().codes;
+            EXPECT_TRUE(met) << "it fails without a fault";
+            EXPECT_EQ(std::count(codes.begin(), codes.end(), code), 1)
+                << std::hex << static_cast<std::uint32_t>(code);
+            EXPECT_TRUE(host.reports > 0 || source == faults::Source::Memory ||
+                        !GetParam().Has(kReports))
+                << "no word about it";
+        }
         if (source == faults::Source::Files) {
             WriteTree();
         }
-        EXPECT_EQ(GetParam().request(host), qor::rcOk) << "the next request";
+        EXPECT_EQ((host.*GetParam().request)(), qor::rcOk) << "the next request";
         return met;
     }
 
-    static void ExpectFailure(qor::result_t code, bool met, std::size_t reports) {
-        const auto& codes = GetParam().codes;
-        if (code == qor::rcOk) {
-            return;
-        }
-        EXPECT_TRUE(met) << "it fails without a fault";
-        EXPECT_NE(std::find(codes.begin(), codes.end(), code), codes.end())
-            << std::hex << static_cast<std::uint32_t>(code);
-        EXPECT_TRUE(reports > 0 || !GetParam().reports) << "no word about it";
-    }
-
-    /// Tries faults at the first call, the second one and so on, until there is none to fail.
+    /// Tries a fault at the first call, the second one and so on, until there is none to fail.
     void TryAll(faults::Source source, bool lasts, const faults::Deed& deed) {
         WriteTree();
         Try(source, 1, lasts, deed);  // from now on, what the process keeps is there
-        for (std::size_t first = 1; !HasFailure(); ++first) {
-            SCOPED_TRACE(first);
+        std::size_t first = 0;
+        for (bool met = true; met && !HasFailure();) {
+            SCOPED_TRACE(++first);
             const std::size_t blocks = faults::LiveBlocks();
             const auto files = OpenFiles();
-            const bool met = Try(source, first, lasts, deed);
+            met = Try(source, first, lasts, deed);
             EXPECT_EQ(faults::LiveBlocks(), blocks) << "memory leaked";
             EXPECT_EQ(qorCanUnloadModule(), qor::rcOk);
             EXPECT_EQ(OpenFiles(), files) << "a file stays open";
-            if (!met) {
-                break;
-            }
-            ++points;
         }
+        EXPECT_EQ(first > 1, source == faults::Source::Files
+                                 ? GetParam().Has(kUsesFiles)
+                                 : GetParam().request != &Host::ReadStream);
     }
 
     static std::ptrdiff_t OpenFiles() {
         return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
     }
 
-    /// Shows how many faults there were.
-    void ExpectPoints(bool expected) {
-        EXPECT_EQ(points > 0, expected);
-        RecordProperty("faults", static_cast<int>(points));
-        std::cout << points << " faults\n";
-    }
-
     lm_test::TempTree tree;
-    std::size_t points = 0;
 };
 
 TEST_P(FaultTest, MemoryFails) {
     for (const bool lasts : {false, true}) {
         TryAll(faults::Source::Memory, lasts, [] { return true; });
     }
-    ExpectPoints(GetParam().request != ReadStream);  // which needs none
 }
 
 TEST_P(FaultTest, FilesFail) {
     for (const bool lasts : {false, true}) {
         TryAll(faults::Source::Files, lasts, [] { return true; });
     }
-    ExpectPoints(GetParam().usesFiles);
 }
 
 TEST_P(FaultTest, FilesChangeUnderARequest) {
-    const auto changeAll = [this](auto change) {
-        return [this, change] {
+    namespace fs = std::filesystem;
+    using Change = void (*)(const fs::path& file);
+    const Change shorten = [](const fs::path& file) {
+        fs::resize_file(file, fs::file_size(file) / 2);
+    };
+    const Change remove = [](const fs::path& file) { fs::remove(file); };
+    const Change replace = [](const fs::path& file) {
+        fs::remove(file);
+        fs::create_directory(file);
+    };
+    for (const Change change : {shorten, remove, replace}) {
+        TryAll(faults::Source::Files, false, [this, change] {
             for (const char* const name : {"en/Plural.rule", "neutral/app/picture.bin",
                                            "neutral/Locs/app.lt", "neutral/Locs/common.lt"}) {
                 change(tree.Root() / name);
             }
             return false;
-        };
-    };
-    namespace fs = std::filesystem;
-    TryAll(faults::Source::Files, false,
-           changeAll([](const fs::path& file) { fs::resize_file(file, fs::file_size(file) / 2); }));
-    TryAll(faults::Source::Files, false, changeAll([](const fs::path& file) { fs::remove(file); }));
-    TryAll(faults::Source::Files, false, changeAll([](const fs::path& file) {
-               fs::remove(file);
-               fs::create_directory(file);
-           }));
-    ExpectPoints(GetParam().usesFiles);
+        });
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Requests, FaultTest,
-    testing::Values(
-        Case{"creation", {}, CreateManager, false, {qor::rcOutOfMemory}, false, false},
-        Case{"initialisation", {CreateManager}, Initialise, false, {kFails}, true, true},
-        Case{"listener", {CreateManager}, InitialiseWithListener, false, {kFails}, true, true},
-        Case{"localizer",
-             {CreateManager, Initialise},
-             CreateLocalizer,
-             false,
-             {kFails},
-             true,
-             false},
-        Case{"first", kReady, Greet, false, {kFails}, true, true},
-        Case{"firstLook", kReady, Look, false, {kFails}, true, true},
-        Case{"later", kBuilt, Count, false, {kFails}, true, false},
-        Case{"path", kReady, FindPath, false, {kFails, qor::rcNotFound}, false, true},
-        Case{"resource", kReady, FindResource, true, {kFails, qor::rcOutOfMemory}, false, true},
-        Case{"stream", kReady, Stream, false, {kFails, qor::rcNotFound}, false, true},
-        Case{"read", kOpened, ReadStream, false, {kFails}, false, true},
-        Case{"buffer",
-             {CreateManager, Initialise},
-             CreateFromBuffer,
-             true,
-             {kFails, qor::rcOutOfMemory},
-             false,
-             false},
-        Case{"buffers",
-             {CreateManager, Initialise},
-             CreateFromBuffers,
-             true,
-             {kFails, qor::rcOutOfMemory},
-             false,
-             false},
-        Case{"bufferFirst",
-             {CreateManager, Initialise, CreateFromBuffer},
-             Greet,
-             false,
-             {kFails},
-             true,
-             true},
-        Case{"buffersFirst",
-             {CreateManager, Initialise, CreateFromBuffers},
-             Greet,
-             false,
-             {kFails},
-             true,
-             true},
-        Case{"converter", {}, Convert, true, {qor::rcOutOfMemory}, false, false}),
-    [](const auto& tested) { return std::string(tested.param.name); });
+INSTANTIATE_TEST_SUITE_P(Requests, FaultTest, testing::ValuesIn(kCases),
+                         [](const auto& tested) { return std::string(tested.param.name); });
 
 }  // namespace

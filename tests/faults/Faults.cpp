@@ -2,12 +2,10 @@
 // itself at risk.
 #include "Faults.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <new>
 #include <utility>
 
@@ -28,10 +26,10 @@ namespace {
 
 struct Plan {
     Source source = Source::Memory;
-    std::size_t left = 0;  // calls until the first deed; 0 when there is no plan
+    std::size_t first = 1;
     bool lasts = false;
-    bool happened = false;
     Deed deed;
+    std::size_t calls = 0;
 };
 
 // Memory is asked for before and after `main`, so that the parts in use there need no making.
@@ -48,51 +46,31 @@ bool Fails(Source source) {
         return false;
     }
     Plan& plan = ThePlan();
-    if (plan.left > 1) {
-        --plan.left;
+    if (++plan.calls < plan.first || (plan.calls > plan.first && !plan.lasts)) {
         return false;
     }
-    if (plan.happened && !plan.lasts) {
-        return false;
-    }
-    plan.happened = true;
     isActive = false;
     const bool fails = plan.deed();
     isActive = true;
     return fails;
 }
 
-template <class Call>
-int UnlessFileFails(Call call) {
-    if (Fails(Source::Files)) {
-        errno = EIO;
-        return -1;
-    }
-    return static_cast<int>(call());
-}
-
-void* Allocate(std::size_t size) {
-    void* const memory = Fails(Source::Memory) ? nullptr : __real_malloc(size);
-    liveBlocks += memory != nullptr ? 1 : 0;
-    return memory;
-}
-
-void Free(void* memory) {
-    liveBlocks -= memory != nullptr ? 1 : 0;
-    __real_free(memory);
+bool FileFails() {
+    errno = EIO;  // of no interest to calls that go well
+    return Fails(Source::Files);
 }
 
 }  // namespace
 
 void Start(Source source, std::size_t first, bool lasts, Deed deed) {
-    ThePlan() = {source, first, lasts, false, std::move(deed)};
+    ThePlan() = {source, first, lasts, std::move(deed)};
     isActive = true;
 }
 
 bool Stop() {
     isActive = false;
     ThePlan().deed = nullptr;
-    return ThePlan().happened;
+    return ThePlan().calls >= ThePlan().first;
 }
 
 std::size_t LiveBlocks() {
@@ -103,51 +81,51 @@ std::size_t LiveBlocks() {
 
 using namespace lm_test::faults;
 
-void* operator new(std::size_t size) {
-    void* const memory = Allocate(size);
-    if (memory == nullptr) {
-        throw std::bad_alloc();
-    }
-    return memory;
-}
-
-void operator delete(void* memory) noexcept {
-    Free(memory);
-}
-
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    Free(memory);
-}
-
 extern "C" {
 
 void* __wrap_malloc(std::size_t size) {
-    return Allocate(size);
+    void* const memory = Fails(Source::Memory) ? nullptr : __real_malloc(size);
+    liveBlocks += memory != nullptr ? 1 : 0;
+    return memory;
 }
 
 void __wrap_free(void* memory) {
-    Free(memory);
+    liveBlocks -= memory != nullptr ? 1 : 0;
+    __real_free(memory);
 }
 
 int __wrap_open(const char* name, int flags, ...) {
-    return UnlessFileFails([&] { return __real_open(name, flags); });
+    return FileFails() ? -1 : __real_open(name, flags);
 }
 
 int __wrap_stat(const char* name, struct stat* status) {
-    return UnlessFileFails([&] { return __real_stat(name, status); });
+    return FileFails() ? -1 : __real_stat(name, status);
 }
 
 int __wrap_lstat(const char* name, struct stat* status) {
-    return UnlessFileFails([&] { return __real_lstat(name, status); });
+    return FileFails() ? -1 : __real_lstat(name, status);
 }
 
 int __wrap_fstat(int file, struct stat* status) {
-    return UnlessFileFails([&] { return __real_fstat(file, status); });
+    return FileFails() ? -1 : __real_fstat(file, status);
 }
 
 ssize_t __wrap_read(int file, void* destination, std::size_t wanted) {
-    return UnlessFileFails([&] { return __real_read(file, destination, wanted); });
+    return FileFails() ? -1 : __real_read(file, destination, wanted);
 }
 
 }  // extern "C"
+
+void* operator new(std::size_t size) {
+    void* const memory = __wrap_malloc(size);
+    return memory != nullptr ? memory : throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+    __wrap_free(memory);
+}
+
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    __wrap_free(memory);
+}
 // NOLINTEND(bugprone-reserved-identifier)

@@ -14,8 +14,8 @@ using lm_test::ErrorText;
 using lm_test::ParseDictionary;
 using lm_test::PrintDictionary;
 
-std::string ErrorOf(std::u16string_view source) {
-    return ErrorText<ParsingException>([source] { ParseDictionary(source); });
+std::string ErrorOf(const std::u16string& source) {
+    return ErrorText<ParsingException>([&] { ParseDictionary(source); });
 }
 
 TEST(LocFileParserTest, ValidTextsFillTheDictionary) {
@@ -25,10 +25,6 @@ TEST(LocFileParserTest, ValidTextsFillTheDictionary) {
 }
 
 TEST(LocFileParserTest, AFaultIsReportedWithItsPlaceItsLineAndACaret) {
-    EXPECT_EQ(ErrorOf(u"Key 'value'"),
-              "parse error at file app.lt line 1 column 5\n"
-              "\"Key 'value'\"\n"
-              "     ^- expecting \"=\" here or one of previous lines miss termination '(qoute)");
     for (const auto& [source, fault] : lm_test::ReadCases("loc_file_faults.txt")) {
         EXPECT_EQ(ErrorOf(source), lm_test::FaultText("app.lt", fault));
     }
@@ -41,13 +37,13 @@ TEST(LocFileParserTest, ADuplicateKeyIsReportedWithoutAPlaceAndKeepsWhatCameBefo
               "duplicate key found (keys are case insensitive): 'a.b'");
     EXPECT_THROW(lm_test::ParseInto(dictionary, u"d='5' a.b='6'"), ParsingException);
     EXPECT_THROW(lm_test::ParseInto(dictionary, u"e='7' f="), ParsingException);
-    EXPECT_EQ(PrintDictionary(dictionary), R"(a = "1";a.b = "2";d = "5";e = "7";)");
+    EXPECT_EQ(PrintDictionary(dictionary), "a = '1' a.b = '2' d = '5' e = '7'");
 }
 
 TEST(LocFileParserTest, TheGlobalLocaleDecidesWhatIsWhitespaceButNotHowNumbersPrint) {
     const lm_test::GlobalLocale english("en_US.UTF-8");
     EXPECT_EQ(PrintDictionary(ParseDictionary(u"\u2003A\u3000=\u2003'x'\u3000+\u2003B\u3000")),
-              R"(a = "x" + b;)");
+              "a = 'x' + b");
     const std::u16string source = std::u16string(1233, u'\n') + std::u16string(1233, u' ') + u'?';
     const std::string shown = LocalizationManager::Text::ToUtf8(source.substr(1233));
     EXPECT_EQ(ErrorOf(source),

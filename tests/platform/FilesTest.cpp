@@ -78,60 +78,19 @@ TEST_F(FilesTest, AttributesDoNotFollowLinksAndOnlyRegularFilesOpenWithoutBlocki
     }
 }
 
-TEST_F(FilesTest, AnExclusiveLockHeldElsewhereIsASharingViolation) {
+TEST_F(FilesTest, AnOpenFileIsSharedForReadingOnly) {
     const int other = ::open((tree_.Root() / "dir/file").c_str(), O_RDONLY | O_CLOEXEC);
-    ASSERT_EQ(::flock(other, LOCK_EX | LOCK_NB), 0);
-    EXPECT_EQ(Open(u"dir/file"), 32U);
     ASSERT_EQ(::flock(other, LOCK_SH | LOCK_NB), 0);
     EXPECT_EQ(Open(u"dir/file"), 0U);
-    EXPECT_EQ(::flock(other, LOCK_EX | LOCK_NB), -1) << "an open file is shared for reading only";
+    EXPECT_EQ(::flock(other, LOCK_EX | LOCK_NB), -1);
     Platform::CloseFile(file_);
     ::close(other);
-}
-
-TEST_F(FilesTest, SeeksAndReads) {
-    using Origin = Platform::SeekOrigin;
-    ASSERT_EQ(Open(u"dir/file"), 0U);
-    const struct {
-        Origin origin;
-        std::int64_t offset;
-        Platform::ErrorNumber error;
-        std::int64_t position;  // after an error the one before
-        std::string_view bytes;
-    } cases[] = {
-        {Origin::Start, 0, 0, 0, "0123"},         {Origin::Current, 2, 0, 6, "6789"},
-        {Origin::Start, 8, 0, 8, "89"},           {Origin::End, -3, 0, 7, "789"},
-        {Origin::End, 100, 0, 110, ""},           {Origin::Start, 4, 0, 4, "4567"},
-        {Origin::Start, -1, 131, 8, "89"},        {Origin::Current, -11, 131, 10, ""},
-        {Origin::Current, INT64_MAX, 87, 10, ""},
-    };
-    for (const auto& expected : cases) {
-        SCOPED_TRACE(expected.offset);
-        std::int64_t position = kUntouched;
-        EXPECT_EQ(Platform::SeekFile(file_, expected.origin, expected.offset, position),
-                  expected.error);
-        EXPECT_EQ(position, expected.error != 0 ? kUntouched : expected.position);
-        ASSERT_EQ(Platform::SeekFile(file_, Origin::Current, 0, position), 0U);
-        EXPECT_EQ(position, expected.position);
-        char bytes[4];
-        std::uint32_t read = 77;
-        EXPECT_EQ(Platform::ReadFile(file_, bytes, sizeof bytes, read), 0U);
-        EXPECT_EQ(std::string_view(bytes, read), expected.bytes);
-    }
-    std::int64_t size = 0;
-    EXPECT_EQ(Platform::GetFileSize(file_, size), 0U);
-    EXPECT_EQ(size, 10);
-    Platform::CloseFile(file_);
 }
 
 TEST(InvalidFileTest, IsAnErrorOfItsOwnEvenWhenNothingIsRead) {
     std::uint32_t read = 77;
     EXPECT_EQ(Platform::ReadFile(Platform::kInvalidFileHandle, nullptr, 0, read), 6U);
     EXPECT_EQ(read, 77U);
-}
-
-TEST(PathTest, BothSeparatorsBecomeTheSystemsOwn) {
-    EXPECT_EQ(Platform::NativePath(u"C:\\loc/de\\\\x"), u"C:/loc/de//x");
 }
 
 }  // namespace

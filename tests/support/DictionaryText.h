@@ -1,7 +1,6 @@
 // Dictionaries from and to readable text.
 #pragma once
 
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -10,12 +9,12 @@
 #include "LocFileParser.h"
 #include "Operand.h"
 #include "ResourceDictionary.h"
-#include "Utf8.h"
+#include "localization_manager/host/text.h"
 
 namespace lm_test {
 
 namespace model = LocalizationManager::StringLocalizing::Model;
-using LocalizationManager::Text::ToUtf8;
+using localization_manager::host::ToUtf8;
 
 /// Adds the entries of a source to a dictionary.
 inline void ParseInto(model::ResourceDictionary& dictionary, std::u16string_view source) {
@@ -24,24 +23,27 @@ inline void ParseInto(model::ResourceDictionary& dictionary, std::u16string_view
     ParseResourceDictionary(range.first, range.last, dictionary);
 }
 
-inline model::ResourceDictionary ParseDictionary(std::u16string_view source) {
+inline model::ResourceDictionary ParseDictionary(const std::u16string& source) {
     model::ResourceDictionary dictionary;
     ParseInto(dictionary, source);
     return dictionary;
 }
 
 inline std::string Quote(std::u16string_view text) {
-    return '"' + ToUtf8(text) + '"';
+    std::string quoted = "'";
+    for (const char character : ToUtf8(text)) {
+        quoted += character == '\'' || character == '\\' || character == '\n' ? "\\" : "";
+        quoted += character == '\n' ? 'n' : character;
+    }
+    return quoted + '\'';
 }
 
-/// "text" + key + $param + {$param: value, value}
-/// @param printText  how texts are written.
-inline std::string PrintValue(model::ValueView value,
-                              std::string (*printText)(std::u16string_view) = Quote) {
+/// 'text' + key + $param + {$param: value, value}
+inline std::string PrintValue(model::ValueView value) {
     const auto print = [&](const model::OperandView& operand) {
         switch (operand.kind) {
             case model::OperandKind::Text:
-                return printText(operand.text);
+                return Quote(operand.text);
             case model::OperandKind::KeyRef:
                 return ToUtf8(operand.text);
             case model::OperandKind::Param:
@@ -52,7 +54,7 @@ inline std::string PrintValue(model::ValueView value,
         std::string text = "{$" + ToUtf8(operand.text);
         std::string separator = ": ";
         ForEachForm(operand, [&](model::ValueView form) {
-            text += std::exchange(separator, ", ") + PrintValue(form, printText);
+            text += std::exchange(separator, ", ") + PrintValue(form);
         });
         return text + '}';
     };
@@ -74,20 +76,11 @@ inline std::map<std::u16string, model::ValueView> EntriesOf(
     return entries;
 }
 
-/// A value of the given operands.
-inline model::Value MakeValue(std::initializer_list<model::Operand> operands) {
-    model::Value value;
-    for (const model::Operand& operand : operands) {
-        Append(value, operand);
-    }
-    return value;
-}
-
-/// key = value;key = value;
+/// The entries as a source: key = value key = value
 inline std::string PrintDictionary(const model::ResourceDictionary& dictionary) {
     std::string text;
     for (const auto& [key, value] : EntriesOf(dictionary)) {
-        text += ToUtf8(key) + " = " + PrintValue(value) + ";";
+        text += (text.empty() ? "" : " ") + ToUtf8(key) + " = " + PrintValue(value);
     }
     return text;
 }

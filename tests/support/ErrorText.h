@@ -6,8 +6,8 @@
 
 namespace lm_test {
 
-/// What the exception that `call` throws says. One that is no `Expected` passes on and fails the
-/// test.
+/// What the exception that `call` throws says, nothing when there is none. One that is no `Expected`
+/// passes on and fails the test.
 template <class Expected = std::exception, class Call>
 std::string ErrorText(Call call) {
     try {
@@ -15,7 +15,7 @@ std::string ErrorText(Call call) {
     } catch (const Expected& caught) {
         return caught.what();
     }
-    return "no exception";
+    return "";
 }
 
 }  // namespace lm_test

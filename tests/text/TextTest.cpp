@@ -1,9 +1,8 @@
-// Letter case, UTF-8 of messages, and the names of cultures.
+// Letter case, and UTF-8 of messages.
 #include <gtest/gtest.h>
 
 #include <locale>
 
-#include "CultureNames.h"
 #include "GlobalLocale.h"
 #include "LowerCaseMapping.h"
 #include "Utf8.h"
@@ -51,14 +50,6 @@ TEST(TextTest, EveryUnitOfAMessageIsEncodedByItself) {
     EXPECT_EQ(ToUtf8(u"a\0\u007F\u0080\u07FF\u0800\uFFFF"sv),
               "a\0\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF"sv);
     EXPECT_EQ(ToUtf8(u"\U0001F511\xD800"), "\xED\xA0\xBD\xED\xB4\x91\xED\xA0\x80");
-    EXPECT_EQ(FromUtf8("\xF0\x9F\x94\x91 \xE2\x82 \0x"sv), u"\U0001F511 \uFFFD \0x"sv);
-}
-
-TEST(TextTest, AnUnsupportedLanguageIsNamedWithoutDigitGrouping) {
-    using namespace localization_manager;
-    const lm_test::GlobalLocale english("en_US.UTF-8");
-    EXPECT_EQ(CultureText({Language{1234567}, "br", "x"}), "Unsupported language 1234567-br-x");
-    EXPECT_EQ(CultureText({Language{38}, "", ""}), "Unsupported language 38-");
 }
 
 }  // namespace

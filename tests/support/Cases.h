@@ -1,4 +1,4 @@
-// What the parsers make of sources, from the text files beside this one.
+// What becomes of sources, from text files beside the tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Utf8.h"
+#include "localization_manager/host/text.h"
 
 namespace lm_test {
 
@@ -34,7 +35,7 @@ inline std::vector<std::pair<std::u16string, std::string>> ReadCases(const std::
         if (at != std::string::npos) {
             cases.emplace_back(
                 ReadField(line.substr(0, at)),
-                LocalizationManager::Text::ToUtf8(ReadField(line.substr(at + arrow.size()))));
+                localization_manager::host::ToUtf8(ReadField(line.substr(at + arrow.size()))));
         } else {
             EXPECT_EQ(line.substr(0, 1), "#") << line;
         }
@@ -43,15 +44,18 @@ inline std::vector<std::pair<std::u16string, std::string>> ReadCases(const std::
     return cases;
 }
 
-/// A parser's message for "line:column [line of the source] what was expected".
+/// A parser's message for "line:column [line of the source] what was expected"; every unit is encoded
+/// by itself.
 inline std::string FaultText(const std::string& sourceName, const std::string& fault) {
     const std::size_t colon = fault.find(':');
     const std::size_t open = fault.find(" [");
     const std::size_t close = fault.rfind("] ");
     const std::string column = fault.substr(colon + 1, open - colon - 1);
-    return "parse error at file " + sourceName + " line " + fault.substr(0, colon) + " column " +
-           column + "\n\"" + fault.substr(open + 2, close - open - 2) + "\"\n" +
-           std::string(std::stoul(column), ' ') + "^- expecting " + fault.substr(close + 2);
+    using namespace LocalizationManager::Text;
+    return ToUtf8(FromUtf8("parse error at file " + sourceName + " line " + fault.substr(0, colon) +
+                           " column " + column + "\n\"" + fault.substr(open + 2, close - open - 2) +
+                           "\"\n" + std::string(std::stoul(column), ' ') + "^- expecting " +
+                           fault.substr(close + 2)));
 }
 
 }  // namespace lm_test
