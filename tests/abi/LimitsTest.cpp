@@ -15,6 +15,28 @@ constexpr std::size_t kStackSize = std::size_t{256} * 1024;
 constexpr std::size_t kStackSize = std::size_t{8} * 1024 * 1024;
 #endif
 
+/// While it lives, new threads get a stack of that size.
+class SmallStacks {
+public:
+    SmallStacks() {
+        pthread_attr_t small;
+        pthread_getattr_default_np(&before_);
+        pthread_attr_init(&small);
+        EXPECT_EQ(pthread_attr_setstacksize(&small, kStackSize), 0);
+        EXPECT_EQ(pthread_setattr_default_np(&small), 0);
+        pthread_attr_destroy(&small);
+    }
+    SmallStacks(const SmallStacks&) = delete;
+    SmallStacks& operator=(const SmallStacks&) = delete;
+    ~SmallStacks() {
+        pthread_setattr_default_np(&before_);
+        pthread_attr_destroy(&before_);
+    }
+
+private:
+    pthread_attr_t before_;
+};
+
 struct LimitsTest : AbiTest {
     LimitsTest() {
         tree.Write("neutral/Locs/common.lt", "");
@@ -31,10 +53,7 @@ std::string Nested(int depth, const std::string& open, std::string text, const s
 }
 
 TEST_F(LimitsTest, FormsAndParenthesesNestUpToTheLimit) {
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, kStackSize), 0);
-    ASSERT_EQ(pthread_setattr_default_np(&attributes), 0);
+    const SmallStacks smallStacks;
     resolver.values.emplace(u"n", u"1");
     for (const auto& [forms, parentheses] : {std::pair(64, 64), {65, 64}, {64, 65}}) {
         tree.Write("en/Plural.rule", Nested(parentheses, "(", "n==1", ")") + ";");
@@ -47,7 +66,6 @@ TEST_F(LimitsTest, FormsAndParenthesesNestUpToTheLimit) {
             EXPECT_EQ(text.Text(), isAllowed ? u"x" : u"");
         }).join();
     }
-    pthread_attr_destroy(&attributes);
 }
 
 TEST_F(LimitsTest, ReferencesExpandUpToTheLimits) {

@@ -1,4 +1,4 @@
-// The kinds of operands, in the order of the alternatives of `Operand`.
+// The kinds of operands.
 #pragma once
 
 #include <cstdint>
