@@ -1,0 +1,212 @@
+#include <algorithm>
+#include <iterator>
+
+#include "check/families.h"
+#include "tree/ascii_case.h"
+
+namespace lm_check {
+
+using lm_source::Document;
+using lm_source::Entry;
+using lm_source::Operand;
+using lm_source::OperandKind;
+using lm_tree::LowerAscii;
+
+namespace {
+
+/// Compares the parameters of texts with those of the reference.
+class Comparison {
+public:
+    Comparison(const Subject& subject, Collector& out) : subject_(subject), out_(out) {}
+
+    /// @param expansion  of the file that the entry stands in.
+    void Judge(const TextFile& file, const Expansion& expansion, const Entry& entry,
+               const ReferenceText& reference) {
+        const Expansion::Text& text = expansion.Of(entry);
+        if (text.params == reference.params || !reference.isComplete || !text.isComplete) {
+            return;
+        }
+        const auto& has = subject_.names.MembersOf(text.params);
+        const auto& known = subject_.reference.names->MembersOf(reference.params);
+        NameSets::Members unknown;
+        std::set_difference(has.begin(), has.end(), known.begin(), known.end(),
+                            std::back_inserter(unknown));
+        NameSets::Members dropped;
+        std::set_difference(known.begin(), known.end(), has.begin(), has.end(),
+                            std::back_inserter(dropped));
+        for (const NameSets::Name name : unknown) {
+            AddUnknown(file, expansion, entry, subject_.names.TextOf(name), dropped, known);
+        }
+        for (const NameSets::Name name : dropped) {
+            AddDropped(file, entry, subject_.names.TextOf(name), unknown);
+        }
+    }
+
+private:
+    void AddUnknown(const TextFile& file, const Expansion& expansion, const Entry& entry,
+                    const std::string& name, const NameSets::Members& dropped,
+                    const NameSets::Members& known) {
+        const auto& params = subject_.plan.options.params;
+        if (params.count(name) != 0) {
+            return;
+        }
+        std::string message = "the reference text has no parameter $" + name;
+        const std::string similar = Similar(name, dropped.empty() ? known : dropped);
+        if (!similar.empty()) {
+            message += ": write $" + similar + " (letter case counts)";
+        } else if (known.empty()) {
+            message += ", nor any other: remove it, or have the program supply it (--param)";
+        } else {
+            message += ": write " + List(known) + ", or have the program supply it (--param)";
+        }
+        out_.Add(Rule::UnknownParameter, Subject::ViewOf(file),
+                 PlaceOf(file, expansion, entry, name), file.document.Key(entry), subject_.requests,
+                 std::move(message));
+    }
+
+    void AddDropped(const TextFile& file, const Entry& entry, const std::string& name,
+                    const NameSets::Members& unknown) {
+        if (!Similar(name, unknown).empty()) {
+            return;  // it is there in other letter case, which is said already
+        }
+        out_.Add(Rule::ParameterDropped, Subject::ViewOf(file), entry.key, file.document.Key(entry),
+                 subject_.requests,
+                 "the text does not use $" + name + ", which the reference text does: put it in");
+    }
+
+    /// The name that differs only in letter case; empty when there is none.
+    std::string Similar(const std::string& name, const NameSets::Members& others) const {
+        for (const NameSets::Name other : others) {
+            const std::string& text = subject_.names.TextOf(other);
+            if (text != name && lm_tree::SameIgnoringCase(text, name)) {
+                return text;
+            }
+        }
+        return {};
+    }
+
+    std::string List(const NameSets::Members& names) const {
+        std::string list;
+        for (const NameSets::Name name : names) {
+            list += (list.empty() ? "$" : ", $") + subject_.names.TextOf(name);
+        }
+        return list;
+    }
+
+    /// The first place of an entry where a parameter is asked for, perhaps by a reference.
+    Range PlaceOf(const TextFile& file, const Expansion& expansion, const Entry& entry,
+                  const std::string& name) {
+        const Document& document = file.document;
+        for (const Operand& operand : document.OperandsOf(entry)) {
+            if ((operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm) &&
+                document.Name(operand) == name) {
+                const Range range = document.NameRange(operand);
+                return {range.begin - 1, range.end};
+            }
+        }
+        const NameSets::Name number = subject_.names.NameOf(name);
+        for (const Operand& operand : document.ValueOf(entry)) {
+            if (operand.kind != OperandKind::KeyRef) {
+                continue;
+            }
+            const Expansion::Text* const target = expansion.Target(document.Name(operand));
+            if (target != nullptr) {
+                const auto& members = subject_.names.MembersOf(target->params);
+                if (std::binary_search(members.begin(), members.end(), number)) {
+                    return operand.range;
+                }
+            }
+        }
+        return entry.key;
+    }
+
+    const Subject& subject_;
+    Collector& out_;
+};
+
+/// Parameters of a source, by how they are spelt.
+using Spellings = std::map<std::string, std::map<std::string, std::size_t>>;
+
+Spellings SpellingsOf(const Document& document) {
+    std::map<std::string_view, std::size_t> uses;
+    for (const Entry& entry : document.Entries()) {
+        for (const Operand& operand : document.OperandsOf(entry)) {
+            if (operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm) {
+                ++uses[document.Name(operand)];
+            }
+        }
+    }
+    Spellings spellings;
+    for (const auto& [name, count] : uses) {
+        spellings[LowerAscii(name)][std::string(name)] = count;
+    }
+    return spellings;
+}
+
+void AddCase(const Subject& subject, const std::string& name, const std::string& other,
+             Collector& out) {
+    const Document& document = subject.file.document;
+    for (const Entry& entry : document.Entries()) {
+        for (const Operand& operand : document.OperandsOf(entry)) {
+            if ((operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm) &&
+                document.Name(operand) == name) {
+                const Range range = document.NameRange(operand);
+                out.Add(Rule::ParameterCase, subject.Source(), {range.begin - 1, range.end},
+                        document.Key(entry), subject.requests,
+                        std::string("$").append(name).append(" and $").append(other).append(
+                            " differ only in letter case, which counts: are they meant to be two "
+                            "parameters?"));
+                break;
+            }
+        }
+    }
+}
+
+/// Of the spellings in one file all but the usual one. A translation's spellings that its reference
+/// does not have are unknown parameters, unless the program supplies them.
+void CheckCase(const Subject& subject, Collector& out) {
+    if (!out.Wants(Rule::ParameterCase)) {
+        return;
+    }
+    const auto& supplied = subject.plan.options.params;
+    for (const auto& [lower, spellings] : SpellingsOf(subject.file.document)) {
+        const auto usual =
+            std::max_element(spellings.begin(), spellings.end(),
+                             [](const auto& l, const auto& r) { return l.second < r.second; });
+        for (const auto& [name, count] : spellings) {
+            if (name != usual->first && (subject.isReference || supplied.count(name) != 0)) {
+                AddCase(subject, name, usual->first, out);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+void CheckParameters(const Subject& subject, Collector& out) {
+    CheckCase(subject, out);
+    if (subject.isReference) {
+        return;
+    }
+    Comparison comparison(subject, out);
+    for (const Entry& entry : subject.file.document.Entries()) {
+        const ReferenceText* const reference =
+            subject.reference.Find(subject.file.document.Key(entry));
+        if (reference != nullptr && !entry.isFaulty) {
+            comparison.Judge(subject.file, subject.expansion, entry, *reference);
+        }
+    }
+    if (subject.common == nullptr || subject.reference.own == nullptr) {
+        return;
+    }
+    // A key that the reference answers in this scope may be answered by the common texts here.
+    for (const ReferenceText& reference : subject.reference.own->Texts()) {
+        const std::string_view key = subject.reference.own->KeyOf(reference);
+        const Entry* const entry = subject.common->document.Find(key);
+        if (entry != nullptr && !entry->isFaulty && subject.file.document.Find(key) == nullptr) {
+            comparison.Judge(*subject.common, *subject.commonExpansion, *entry, reference);
+        }
+    }
+}
+
+}  // namespace lm_check

@@ -1,0 +1,194 @@
+#include "edit/add_missing.h"
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+#include "TreeLayout.h"
+#include "edit/format.h"
+#include "edit/read_document.h"
+#include "plural/culture_rule.h"
+#include "source/Document.h"
+#include "tree/path_text.h"
+
+namespace lm_edit {
+
+namespace layout = LocalizationManager::File;
+using lm_source::Document;
+using lm_source::Entry;
+using lm_source::Operand;
+using lm_source::OperandKind;
+using lm_source::Value;
+
+namespace {
+
+constexpr const char* kComment = "; localize: untranslated";
+
+/// A value with another number of forms: too few are filled up with the last one, which serves most
+/// numbers, and of too many the last one is kept.
+std::string WithForms(const Document& document, Value value, std::size_t count) {
+    std::string text;
+    for (const Operand& operand : value) {
+        text += text.empty() ? "" : " + ";
+        if (operand.kind != OperandKind::PluralForm) {
+            text += document.Bytes(operand.range);
+            continue;
+        }
+        const std::vector<Value> forms = FormsOf(operand);
+        text += "{$" + std::string(document.Name(operand)) + ": ";
+        for (std::size_t form = 0; form < count; ++form) {
+            const bool isLast = form + 1 >= std::min(count, forms.size());
+            text += (form == 0 ? "" : ", ") +
+                    WithForms(document, isLast ? forms.back() : forms[form], count);
+        }
+        text += '}';
+    }
+    return text;
+}
+
+std::string_view LineBreakOf(std::string_view bytes) {
+    const std::size_t at = bytes.find_first_of("\r\n");
+    if (at == std::string_view::npos) {
+        return "\n";
+    }
+    return bytes.substr(at, bytes.substr(at, 2) == "\r\n" ? 2 : 1);
+}
+
+/// An untranslated entry, in the one style.
+std::string EntryText(const Document& reference, const Entry& entry, std::size_t forms,
+                      std::string_view lineBreak) {
+    std::string text(kComment);
+    text.append(lineBreak).append(reference.Key(entry)).append(" = ");
+    text.append(WithForms(reference, reference.ValueOf(entry), forms)).append(lineBreak);
+    return Format(Document(std::move(text)));
+}
+
+class Search {
+public:
+    Search(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
+           const lm_tree::CultureName& reference)
+        : tree_(tree),
+          culture_(culture),
+          reference_(reference),
+          forms_(lm_plural::RuleOf(&tree, culture).rule.FormCount()),
+          common_(OwnTexts(lm_tree::CommonScope())),
+          referenceCommon_(TextsOf(tree.Answer(reference, lm_tree::CommonScope()))) {}
+
+    void Look(const std::string& scope) {
+        const auto answer = tree_.Answer(culture_, scope);
+        const auto reference = tree_.Answer(reference_, scope);
+        if (!reference) {
+            return;
+        }
+        const bool isOwn = answer && IsIn(*answer, culture_.directories.front());
+        const bool isNeutral = answer && IsIn(*answer, kNeutral);
+        if (answer && !isOwn && !isNeutral) {
+            if (answer != reference &&
+                !Lacking(scope, ReadDocument(tree_, *reference), ReadDocument(tree_, *answer))
+                     .empty()) {
+                found_.others.push_back(tree_.FullPath(*answer));
+            }
+            return;
+        }
+        const Document own = isOwn ? ReadDocument(tree_, *answer) : Document(std::string());
+        const Document texts = ReadDocument(tree_, *reference);
+        const auto lacking = Lacking(scope, texts, own);
+        if (!lacking.empty() || !isOwn) {
+            Add(scope, own, texts, lacking, !isOwn);
+        }
+    }
+
+    MissingKeys Take() { return std::move(found_); }
+
+private:
+    bool IsIn(lm_tree::FileId file, const std::string& directory) const {
+        return tree_.Files()[file].directory == directory;
+    }
+
+    std::optional<Document> TextsOf(std::optional<lm_tree::FileId> file) const {
+        return file ? std::optional<Document>(ReadDocument(tree_, *file)) : std::nullopt;
+    }
+
+    /// Those of the neutral texts are not the culture's.
+    std::optional<Document> OwnTexts(const std::string& scope) const {
+        const auto file = tree_.Answer(culture_, scope);
+        return file && !IsIn(*file, kNeutral) ? TextsOf(file) : std::nullopt;
+    }
+
+    /// The entries of the reference that a file needs. One that the culture keeps among its common
+    /// texts is there, unless the reference has it in both places.
+    std::vector<const Entry*> Lacking(const std::string& scope, const Document& reference,
+                                      const Document& own) const {
+        std::vector<const Entry*> lacking;
+        for (const Entry& entry : reference.Entries()) {
+            const std::string_view key = reference.Key(entry);
+            const bool isCommon = scope != lm_tree::CommonScope() && common_ &&
+                                  common_->Find(key) != nullptr &&
+                                  !(referenceCommon_ && referenceCommon_->Find(key) != nullptr);
+            if (own.Find(key) == nullptr && !isCommon) {
+                lacking.push_back(&entry);
+            }
+        }
+        return lacking;
+    }
+
+    void Add(const std::string& scope, const Document& own, const Document& reference,
+             const std::vector<const Entry*>& lacking, bool isNew) {
+        const std::string_view lineBreak = LineBreakOf(own.Bytes());
+        std::string text(own.Bytes().substr(0, own.Content().end));
+        if (!own.Bytes(own.Content()).empty()) {
+            const bool isEnded = text.back() == '\n' || text.back() == '\r';
+            text.append(isEnded ? "" : lineBreak).append(lineBreak);
+        }
+        for (const Entry* const entry : lacking) {
+            text += EntryText(reference, *entry, forms_, lineBreak);
+        }
+        if (!Document(text).Mistakes().empty()) {
+            throw std::logic_error("adding to the file would make it faulty");
+        }
+        found_.changes.push_back({PathOf(scope), std::move(text), lacking.size(), isNew});
+    }
+
+    std::filesystem::path PathOf(const std::string& scope) const {
+        std::filesystem::path path =
+            tree_.FullPath(lm_tree::Side::Root, culture_.directories.front()) /
+            layout::kTextsDirectory / lm_tree::PathOf(scope);
+        path += layout::kTextsExtension;
+        return path;
+    }
+
+    const std::string kNeutral = lm_tree::Utf8Of(layout::kNeutralDirectory);
+    const lm_tree::Tree& tree_;
+    const lm_tree::CultureName& culture_;
+    const lm_tree::CultureName& reference_;
+    const std::size_t forms_;
+    const std::optional<Document> common_;
+    const std::optional<Document> referenceCommon_;
+    MissingKeys found_;
+};
+
+}  // namespace
+
+MissingKeys AddMissing(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
+                       const lm_tree::CultureName& reference,
+                       const std::vector<std::string>& scopes) {
+    std::vector<std::string> known = tree.ScopesOf(reference);
+    known.insert(known.begin(), lm_tree::CommonScope());
+    for (const std::string& scope : scopes) {
+        if (std::find(known.begin(), known.end(), scope) == known.end()) {
+            throw std::invalid_argument("the reference '" + reference.name + "' has no scope '" +
+                                        scope + "'");
+        }
+    }
+    Search search(tree, culture, reference);
+    for (const std::string& scope : known) {
+        if (scopes.empty() || scope == lm_tree::CommonScope() ||
+            std::find(scopes.begin(), scopes.end(), scope) != scopes.end()) {
+            search.Look(scope);
+        }
+    }
+    return search.Take();
+}
+
+}  // namespace lm_edit
