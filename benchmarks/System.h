@@ -47,10 +47,13 @@ struct SystemType {
 };
 
 extern const SystemType kModule;
+extern const SystemType kTexts;
+extern const SystemType kByHand;
 extern const SystemType kGettext;
 extern const SystemType kIcu;
 extern const SystemType kIcuParsed;
 extern const SystemType kBoostLocale;
 extern const SystemType kBoostLocaleWide;
+extern const SystemType kFloor;
 
 }  // namespace lm_bench

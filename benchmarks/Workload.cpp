@@ -61,18 +61,36 @@ Workload::Workload(std::size_t size) {
     for (std::size_t i = 0; i < size; ++i) {
         messages_.push_back(MakeMessage(i));
     }
+    AskEachOnce();
+    AskRepeatedly();
+}
+
+void Workload::AskEachOnce() {
     std::vector<const Message*> order;
     for (const Message& message : messages_) {
         order.push_back(&message);
     }
-    for (std::size_t left = size; left > 1; --left) {
+    for (std::size_t left = order.size(); left > 1; --left) {
         std::swap(order[left - 1], order[random_() % left]);
     }
     for (const Message* message : order) {
-        requests_.back().push_back(Ask(*message));
+        all_.push_back(Ask(*message));
     }
-    for (const Request& request : requests_.back()) {
-        requests_[static_cast<std::size_t>(request.kind)].push_back(request);
+    auto& byKind = requests_[static_cast<std::size_t>(Order::EachOnce)];
+    for (const Request& request : all_) {
+        byKind[static_cast<std::size_t>(request.kind)].push_back(request);
+    }
+}
+
+void Workload::AskRepeatedly() {
+    constexpr std::size_t kAsked = 16384;
+    for (const Kind kind : {Kind::Plain, Kind::Parameter, Kind::Plural}) {
+        const std::vector<Request>& each = Of(kind, Order::EachOnce);
+        auto& drawn =
+            requests_[static_cast<std::size_t>(Order::Repeated)][static_cast<std::size_t>(kind)];
+        while (drawn.size() < kAsked) {
+            drawn.push_back(Ask(*each[random_() % each.size()].message));
+        }
     }
 }
 

@@ -41,16 +41,29 @@ struct Request {
 
     /// Brings the texts near, as they are with a host that is about to ask: only the systems search.
     void Prefetch() const {
-        __builtin_prefetch(key.data());
-        __builtin_prefetch(key16.data());
-        __builtin_prefetch(parameter.data());
-        __builtin_prefetch(parameter16.data());
+        PrefetchAll(key.data(), key.size());
+        PrefetchAll(key16.data(), key16.size());
+        PrefetchAll(parameter.data(), parameter.size());
+        PrefetchAll(parameter16.data(), parameter16.size());
     }
 
     const Pattern& Form() const;
 
     /// The text that has to come out.
     std::string Text() const;
+
+private:
+    template <class Char>
+    static void PrefetchAll(const Char* text, std::size_t size) {
+        __builtin_prefetch(text);
+        __builtin_prefetch(text + size);  // none is longer than two lines of the cache
+    }
+};
+
+/// The order of requests.
+enum class Order {
+    EachOnce,  // in random order, each before any comes again
+    Repeated,  // 16,384 that are drawn at random, so that some come often, some never
 };
 
 /// Equal sizes make equal workloads, on every machine. A third of the messages is of each kind.
@@ -63,23 +76,26 @@ public:
     std::size_t Size() const { return messages_.size(); }
     const std::vector<Message>& Messages() const { return messages_; }
 
-    /// Every message of a kind once, in random order.
-    const std::vector<Request>& Of(Kind kind) const {
-        return requests_[static_cast<std::size_t>(kind)];
+    /// Requests for the messages of a kind.
+    const std::vector<Request>& Of(Kind kind, Order order) const {
+        return requests_[static_cast<std::size_t>(order)][static_cast<std::size_t>(kind)];
     }
 
     /// Every message once, in random order.
-    const std::vector<Request>& All() const { return requests_.back(); }
+    const std::vector<Request>& All() const { return all_; }
 
 private:
     std::string Sentence(std::size_t words);
     std::string Key(std::size_t index);
     Message MakeMessage(std::size_t index);
     Request Ask(const Message& message);
+    void AskEachOnce();
+    void AskRepeatedly();
 
     std::mt19937 random_;
     std::vector<Message> messages_;
-    std::array<std::vector<Request>, 4> requests_;
+    std::vector<Request> all_;
+    std::array<std::array<std::vector<Request>, 3>, 2> requests_;
 };
 
 /// Writes a file, and the directories above it.

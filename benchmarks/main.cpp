@@ -22,6 +22,7 @@
 
 #include "Catalogues.h"
 #include "Module.h"
+#include "checkers.h"
 #include "memory.h"
 #include "stages.h"
 
@@ -31,6 +32,7 @@ using namespace lm_bench;
 
 constexpr const SystemType* kTypes[] = {&kModule, &kGettext, &kIcu, &kBoostLocale};
 constexpr const char* kKindNames[] = {"plain", "parameter", "plural"};
+constexpr const char* kOrderNames[] = {"request", "repeated"};
 
 /// Asks on and on; the next run goes on where the last one ended.
 void AskAll(benchmark::State& state, System& system, const std::vector<Request>& requests,
@@ -57,10 +59,15 @@ auto* Register(const Catalogues& catalogues, std::initializer_list<const char*> 
 }
 
 void RegisterRequests(Catalogues& catalogues, const SystemType& type, Kind kind) {
-    Register(catalogues, {"request", kKindNames[static_cast<std::size_t>(kind)], type.name},
-             [&catalogues, &type, kind, next = std::size_t{0}](auto& state) mutable {
-                 AskAll(state, catalogues.Opened(type), catalogues.workload().Of(kind), next);
-             });
+    for (const Order order : {Order::EachOnce, Order::Repeated}) {
+        Register(catalogues,
+                 {kOrderNames[static_cast<std::size_t>(order)],
+                  kKindNames[static_cast<std::size_t>(kind)], type.name},
+                 [&catalogues, &type, kind, order, next = std::size_t{0}](auto& state) mutable {
+                     AskAll(state, catalogues.Opened(type), catalogues.workload().Of(kind, order),
+                            next);
+                 });
+    }
 }
 
 /// How long threads take that ask on and on, each from a place of its own.
@@ -204,6 +211,14 @@ void RegisterMemory(Catalogues& catalogues, const SystemType& type) {
     })->Iterations(1);
 }
 
+void RegisterChecker(Catalogues& catalogues, const char* program,
+                     void (*measure)(benchmark::State&, const Catalogues&)) {
+    Register(catalogues, {"check", program},
+             [&catalogues, measure](auto& state) { measure(state, catalogues); })
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
 void RegisterAll(Catalogues& catalogues) {
     constexpr std::size_t kMostParsed = 30000;  // patterns of more would take gigabytes
     for (const Kind kind : {Kind::Plain, Kind::Parameter, Kind::Plural}) {
@@ -213,6 +228,9 @@ void RegisterAll(Catalogues& catalogues) {
         if (kind != Kind::Plain && catalogues.workload().Size() <= kMostParsed) {
             RegisterRequests(catalogues, kIcuParsed, kind);
         }
+        RegisterRequests(catalogues, kFloor, kind);
+        RegisterRequests(catalogues, kByHand, kind);
+        RegisterRequests(catalogues, kTexts, kind);
     }
     RegisterSecondLocalizer(catalogues);
     RegisterReadingPass(catalogues);
@@ -223,6 +241,9 @@ void RegisterAll(Catalogues& catalogues) {
     RegisterStage(catalogues, "reading and decoding", MeasureDecoding);
     RegisterStage(catalogues, "parsing", MeasureParsing);
     RegisterStage(catalogues, "compiling", MeasureCompiling);
+    RegisterChecker(catalogues, "localize", MeasureCheck);
+    RegisterChecker(catalogues, "localize, 40 cultures", MeasureCheckOfMany);
+    RegisterChecker(catalogues, "msgfmt", MeasureMsgfmt);
     for (const SystemType* type : kTypes) {
         RegisterMemory(catalogues, *type);
         RegisterThreads(catalogues, *type);
@@ -250,6 +271,9 @@ int main(int argc, char** argv) try {
     }
     if (argc == 5 && argv[1] == std::string("--memory")) {
         return MeasureMemory(argv[2], argv[3], argv[4]);
+    }
+    if (argc > 2 && argv[1] == std::string("--run")) {
+        return PrintUse(argv + 2);
     }
     benchmark::Initialize(&argc, argv);
     if (argc != 2) {

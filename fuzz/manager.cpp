@@ -1,6 +1,8 @@
 // Fuzzes a whole manager over texts in memory, with a host whose parameter resolver is hostile.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -18,6 +20,25 @@ using lm::host::Make;
 using lm_fuzz::Require;
 using Manager = qor::ComponentObject<lm::LocalizationManager>;
 
+/// What "%%" separates: texts of the scope, common texts, parameters, culture.
+std::array<std::u16string, 4> Parts(std::u16string_view text) {
+    std::array<std::u16string, 4> parts;
+    for (std::u16string& part : parts) {
+        part = text.substr(0, text.find(u"%%"));
+        text.remove_prefix(std::min(part.size() + 2, text.size()));
+    }
+    return parts;
+}
+
+/// One of the texts that "|" separates, told by the last letter of the parameter's name.
+std::u16string_view ParameterText(std::u16string_view texts, std::u16string_view name) {
+    auto before = name.back() % (1 + std::count(texts.begin(), texts.end(), u'|'));
+    for (; before > 0; --before) {
+        texts.remove_prefix(texts.find(u'|') + 1);
+    }
+    return texts.substr(0, texts.find(u'|'));
+}
+
 /// The first unit of a text says what it does: "!" refuses, "?" throws, "&" asks the localizer.
 class HostileResolver : public lm::host::HostObject<lm::IParamResolver> {
 public:
@@ -27,7 +48,7 @@ public:
     lm::ILocalizer* localizer = nullptr;
 
     qor::result_t Resolve(const qor::string16_t& name, qor::string16_t& result) override {
-        const std::u16string_view text = lm_fuzz::ParameterText(texts_, name.view());
+        const std::u16string_view text = ParameterText(texts_, name.view());
         result = text;
         const char16_t deed = text.empty() ? u' ' : text[0];
         if (deed == u'?') {
@@ -102,8 +123,8 @@ void Try(const std::array<std::u16string, 4>& input, qor::IServiceLocator& servi
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     testing::FLAGS_gtest_break_on_failure = true;  // the allocator expects its own blocks back
     const auto services = Make<lm_test::FakeServiceLocator>();
-    Try(lm_fuzz::Parts(lm_fuzz::Decode(data, size)), *services);
-    Require(services->allocator->live.empty(), "all memory is given back");
+    Try(Parts(lm_fuzz::Decode(data, size)), *services);
+    Require(services->allocator->Live() == 0, "all memory is given back");
     Require(qor::ModuleLockCount::Get() == 0, "all objects are gone");
     Require(lm_test::References(*services) == 1, "the services are given back");
     return 0;

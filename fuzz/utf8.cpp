@@ -1,4 +1,7 @@
 // Fuzzes UTF-8 decoding, against a decoder that tries what could be meant and encodes it again.
+#include <algorithm>
+#include <iterator>
+
 #include "Input.h"
 #include "localization_manager/host/text.h"
 

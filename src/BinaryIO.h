@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "InputFile.h"
 #include "qor/IIO.h"
 #include "qor/InterfaceList.h"
-#include "qor/rtl/filesystem/File.h"
 #include "qor/rtl/object_model/ObjectRootEx.h"
 
 namespace localization_manager {
@@ -33,7 +33,7 @@ protected:
     ~BinaryIO() = default;
 
 private:
-    qor::filesystem::File file_;
+    Platform::InputFile file_;
 };
 
 }  // namespace localization_manager

@@ -2,10 +2,11 @@
 
 #include <boost/current_function.hpp>
 #include <boost/make_shared.hpp>
+#include <utility>
 
 #include "BufferProcessingPipeline.h"
 #include "HostParamResolver.h"
-#include "Messages.h"
+#include "failure_reports.h"
 #include "qor/rtl/contracts/checks.h"
 
 namespace localization_manager {
@@ -25,21 +26,22 @@ class BufferLocalizer::ParamResolverWrapper : public HostParamResolver {
 public:
     using HostParamResolver::HostParamResolver;
 
-    qor::string16_t Resolve(const qor::string16_t& name) override {
-        return Ask(name, BOOST_CURRENT_FUNCTION, kResolveLine);
+    void Resolve(std::u16string_view name, engine::Resolving::ResolvedText& output) override {
+        Ask(name, output, BOOST_CURRENT_FUNCTION, kResolveLine);
     }
 };
 
 void BufferLocalizer::Init(const boost::shared_ptr<ResourceProvider>& resourceProvider,
                            const qor::string16_t& scope, const Culture& culture,
                            IParamResolver* paramResolver,
-                           const qor::objptr_t<IErrorListener>& errorListener) {
+                           qor::objptr_t<IErrorListener> errorListener) {
     CheckNotNull(resourceProvider, {"resourceProvider", BOOST_CURRENT_FUNCTION, kServiceSource,
                                     kResourceProviderLine});
     CheckNotNull(errorListener,
                  {"errorListener", BOOST_CURRENT_FUNCTION, kServiceSource, kErrorListenerLine});
-    LocalizerBase::Init(scope, culture, boost::make_shared<ParamResolverWrapper>(paramResolver),
-                        errorListener);
+    LocalizerBase::Init(scope, culture,
+                        boost::make_shared<ParamResolverWrapper>(paramResolver, *GetAllocator()),
+                        std::move(errorListener));
     resourceProvider_ = resourceProvider;
 }
 

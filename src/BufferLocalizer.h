@@ -23,7 +23,7 @@ public:
     /// @throws a contract exception when anything else is null.
     void Init(const boost::shared_ptr<ResourceProvider>& resourceProvider,
               const qor::string16_t& scope, const Culture& culture, IParamResolver* paramResolver,
-              const qor::objptr_t<IErrorListener>& errorListener);
+              qor::objptr_t<IErrorListener> errorListener);
 
     qor::result_t GetString(const qor::string16_t& key, qor::string16_t& result) override;
     qor::result_t GetStream(const qor::string16_t& key, qor::IIO** stream) override;

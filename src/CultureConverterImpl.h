@@ -1,9 +1,7 @@
 // Converts between names of cultures and culture records.
 #pragma once
 
-#include <map>
-#include <string>
-
+#include "CultureTable.h"
 #include "localization_manager/ICultureConverter.h"
 #include "qor/InterfaceList.h"
 #include "qor/rtl/object_model/ObjectRootEx.h"
@@ -24,12 +22,7 @@ protected:
     ~CultureConverterImpl() = default;
 
 private:
-    struct KnownCulture {
-        Language language;
-        std::string region;
-    };
-
-    std::map<std::string, KnownCulture> cultures_;
+    CultureTable cultures_;
 };
 
 }  // namespace localization_manager

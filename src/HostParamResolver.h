@@ -2,11 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "Engine.h"
 #include "IParamResolver.h"
 #include "localization_manager/IParamResolver.h"
-#include "qor/basic_string_t.h"
+#include "qor/IAllocator.h"
 #include "qor/objptr_t.h"
 
 namespace localization_manager {
@@ -15,18 +16,23 @@ namespace localization_manager {
 class HostParamResolver : public engine::Resolving::IParamResolver {
 public:
     /// @param paramResolver  null when the host gave none.
-    explicit HostParamResolver(localization_manager::IParamResolver* paramResolver)
-        : paramResolver_(paramResolver) {}
+    /// @param allocator      for the texts that the host sees; outlives this object.
+    HostParamResolver(localization_manager::IParamResolver* paramResolver,
+                      qor::IAllocator& allocator)
+        : paramResolver_(paramResolver), allocator_(allocator) {}
 
 protected:
+    /// Appends the parameter's text.
     /// @param function  signature of the calling operation.
     /// @param line      line of the call.
     /// @throws QorCallFailedException when the host answers with a failure code; std::runtime_error
     ///         when there is no resolver; what the host throws.
-    qor::string16_t Ask(const qor::string16_t& name, const char* function, std::int32_t line) const;
+    void Ask(std::u16string_view name, engine::Resolving::ResolvedText& output,
+             const char* function, std::int32_t line) const;
 
 private:
     qor::objptr_t<localization_manager::IParamResolver> paramResolver_;
+    qor::IAllocator& allocator_;
 };
 
 }  // namespace localization_manager

@@ -21,19 +21,19 @@ public:
     LazyStringProvider& operator=(const LazyStringProvider&) = delete;
     ~LazyStringProvider() { delete provider_.load(std::memory_order_acquire); }
 
+    /// Null while there is none.
+    StringProvider* Get() const noexcept { return provider_.load(std::memory_order_acquire); }
+
     /// @param lock   held while the provider is built, and left before a failure leaves.
     /// @param build  makes the provider; when it throws, the next request tries again.
     template <class Build>
-    StringProvider& Get(qor::CriticalSection& lock, Build build) {
-        StringProvider* provider = provider_.load(std::memory_order_acquire);
+    StringProvider& GetOrBuild(qor::CriticalSection& lock, Build build) {
+        const std::lock_guard<qor::CriticalSection> guard(lock);
+        StringProvider* provider = Get();
         if (provider == nullptr) {
-            const std::lock_guard<qor::CriticalSection> guard(lock);
-            provider = provider_.load(std::memory_order_relaxed);
-            if (provider == nullptr) {
-                std::unique_ptr<StringProvider> built = build();
-                provider = built.release();
-                provider_.store(provider, std::memory_order_release);
-            }
+            std::unique_ptr<StringProvider> built = build();
+            provider = built.release();
+            provider_.store(provider, std::memory_order_release);
         }
         return *provider;
     }

@@ -4,21 +4,21 @@
 #include <boost/make_shared.hpp>
 #include <utility>
 
+#include "AtBoundary.h"
 #include "BufferLocalizer.h"
 #include "BufferResourceProvider.h"
+#include "CreateComponent.h"
 #include "CultureNames.h"
 #include "ErrorListener.h"
 #include "FileResourceProvider.h"
+#include "GeneratedScopeName.h"
 #include "Localizer.h"
-#include "Messages.h"
-#include "ScopeName.h"
-#include "Utf8.h"
+#include "MessageUtf8.h"
+#include "failure_reports.h"
 #include "qor/rtl/contracts/checks.h"
-#include "qor/rtl/object_model/LocatorObjectFactory.h"
 
 namespace localization_manager {
 
-using ::LocalizationManager::CheckCall;
 using ::LocalizationManager::Text::ToUtf8;
 
 namespace {
@@ -38,9 +38,10 @@ qor::result_t LocalizationManager::Init(const qor::string16_t& root,
     return InitEx(root, alternative, nullptr);
 }
 
-qor::result_t LocalizationManager::InitEx(const qor::string16_t& root,
-                                          const qor::string16_t& alternative,
-                                          qor::objptr_t<IErrorListener> errorListener) {
+qor::result_t LocalizationManager::InitEx(
+    const qor::string16_t& root, const qor::string16_t& alternative,
+    qor::platform::object_argument<IErrorListener> passedListener) {
+    const auto errorListener = qor::platform::TakeArgument<IErrorListener>(passedListener);
     if (root.empty()) {
         return qor::rcInvalidState;
     }
@@ -70,9 +71,11 @@ qor::result_t LocalizationManager::CreateLocalizerFromBuffer(const qor::string16
                                                              const Culture& culture,
                                                              IParamResolver* paramResolver,
                                                              ILocalizer** localizer) {
-    const std::u16string scope = GenerateScopeName();
-    return CreateLocalizer(qor::string16_t(scope), culture, WrapBuffer(scope, buffer, {}),
-                           paramResolver, localizer);
+    return AtBoundary([&] {
+        const std::u16string scope = GenerateScopeName();
+        return CreateLocalizer(qor::string16_t(scope), culture, WrapBuffer(scope, buffer, {}),
+                               paramResolver, localizer);
+    });
 }
 
 qor::result_t LocalizationManager::CreateBufferLocalizer(const qor::string16_t& scopePrefix,
@@ -81,10 +84,12 @@ qor::result_t LocalizationManager::CreateBufferLocalizer(const qor::string16_t& 
                                                          const Culture& culture,
                                                          IParamResolver* paramResolver,
                                                          ILocalizer** localizer) {
-    const std::u16string scope = std::u16string(scopePrefix.view()) + GenerateScopeName();
-    return CreateBufferLocalizer(qor::string16_t(scope), culture,
-                                 WrapBuffer(scope, buffer, commonBuffer.view()), paramResolver,
-                                 localizer);
+    return AtBoundary([&] {
+        const std::u16string scope = std::u16string(scopePrefix.view()) + GenerateScopeName();
+        return CreateBufferLocalizer(qor::string16_t(scope), culture,
+                                     WrapBuffer(scope, buffer, commonBuffer.view()), paramResolver,
+                                     localizer);
+    });
 }
 
 qor::result_t LocalizationManager::Construct(const LocalizationManagerSettings* settings) {
@@ -94,7 +99,7 @@ qor::result_t LocalizationManager::Construct(const LocalizationManagerSettings* 
 
 qor::result_t LocalizationManager::CreateLocalizer(
     const qor::string16_t& scope, const Culture& culture,
-    const boost::shared_ptr<ResourceProvider>& resourceProvider, IParamResolver* paramResolver,
+    boost::shared_ptr<ResourceProvider> resourceProvider, IParamResolver* paramResolver,
     ILocalizer** localizer) {
     const char* const function = BOOST_CURRENT_FUNCTION;
     return Create<Localizer>(
@@ -111,7 +116,7 @@ qor::result_t LocalizationManager::CreateLocalizer(
 
 qor::result_t LocalizationManager::CreateBufferLocalizer(
     const qor::string16_t& scope, const Culture& culture,
-    const boost::shared_ptr<ResourceProvider>& resourceProvider, IParamResolver* paramResolver,
+    boost::shared_ptr<ResourceProvider> resourceProvider, IParamResolver* paramResolver,
     ILocalizer** localizer) {
     const char* const function = BOOST_CURRENT_FUNCTION;
     return Create<BufferLocalizer>(
@@ -136,10 +141,8 @@ qor::result_t LocalizationManager::Create(
         return qor::rcInvalidState;
     }
     try {
-        using LocalizerObject = qor::ComponentObject<LocalizerClass>;
-        qor::objptr_t<LocalizerObject> created;
-        CheckCall(LocalizerObject::CreateInstance(GetServiceLocator(), created.Ref()),
-                  "Cannot create Localizer", creation);
+        auto created = CreateComponent<LocalizerClass>(GetServiceLocator(),
+                                                       "Cannot create Localizer", creation);
         initialise(*created);
         *localizer = created.Detach();
         return qor::rcOk;
@@ -165,14 +168,11 @@ void LocalizationManager::SetErrorListener(const qor::objptr_t<IErrorListener>& 
     if (errorListener) {
         errorListener_ = errorListener;
     } else {
-        using ErrorListenerObject = qor::ComponentObject<ErrorListener>;
-        qor::objptr_t<ErrorListenerObject> created;
-        CheckCall(ErrorListenerObject::CreateInstance(GetServiceLocator(), created.Ref()),
-                  "Cannot create internal tracer",
-                  {"qor::Object<ErrorListener>::CreateInstance(GetServiceLocator(), "
-                   "errorListener_.Ref())",
-                   function, kServiceSource, kCreateListenerLine});
-        errorListener_ = std::move(created);
+        errorListener_ = CreateComponent<ErrorListener>(
+            GetServiceLocator(), "Cannot create internal tracer",
+            {"qor::Object<ErrorListener>::CreateInstance(GetServiceLocator(), "
+             "errorListener_.Ref())",
+             function, kServiceSource, kCreateListenerLine});
     }
     CheckErrorListener(function, kInitListenerLine);
 }

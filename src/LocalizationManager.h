@@ -25,7 +25,7 @@ public:
     qor::result_t CreateLocalizer(const qor::string16_t& scope, const Culture& culture,
                                   IParamResolver* paramResolver, ILocalizer** localizer) override;
     qor::result_t InitEx(const qor::string16_t& root, const qor::string16_t& alternative,
-                         qor::objptr_t<IErrorListener> errorListener) override;
+                         qor::platform::object_argument<IErrorListener> passedListener) override;
     qor::result_t CreateLocalizerFromBuffer(const qor::string16_t& buffer, const Culture& culture,
                                             IParamResolver* paramResolver,
                                             ILocalizer** localizer) override;
@@ -43,11 +43,13 @@ protected:
 private:
     using ResourceProvider = engine::Pipeline::IResourceProvider;
 
+    // The provider comes by value: a creation ends with the one that it began with, even if the host,
+    // asked for memory meanwhile, initialises the manager anew.
     qor::result_t CreateLocalizer(const qor::string16_t& scope, const Culture& culture,
-                                  const boost::shared_ptr<ResourceProvider>& resourceProvider,
+                                  boost::shared_ptr<ResourceProvider> resourceProvider,
                                   IParamResolver* paramResolver, ILocalizer** localizer);
     qor::result_t CreateBufferLocalizer(const qor::string16_t& scope, const Culture& culture,
-                                        const boost::shared_ptr<ResourceProvider>& resourceProvider,
+                                        boost::shared_ptr<ResourceProvider> resourceProvider,
                                         IParamResolver* paramResolver, ILocalizer** localizer);
 
     /// What both do alike: makes a localizer, has `initialise` make it ready and hands it out.

@@ -2,14 +2,15 @@
 
 #include <boost/current_function.hpp>
 #include <boost/make_shared.hpp>
+#include <utility>
 
+#include "AtBoundary.h"
 #include "BinaryIO.h"
-#include "Engine.h"
+#include "CreateComponent.h"
 #include "HostParamResolver.h"
-#include "Messages.h"
 #include "ResourceProcessingPipeline.h"
+#include "failure_reports.h"
 #include "qor/rtl/contracts/checks.h"
-#include "qor/rtl/object_model/LocatorObjectFactory.h"
 
 namespace localization_manager {
 
@@ -31,8 +32,8 @@ class Localizer::ParamResolverWrapper : public HostParamResolver {
 public:
     using HostParamResolver::HostParamResolver;
 
-    qor::string16_t Resolve(const qor::string16_t& name) override {
-        return Ask(name, BOOST_CURRENT_FUNCTION, kResolveLine);
+    void Resolve(std::u16string_view name, engine::Resolving::ResolvedText& output) override {
+        Ask(name, output, BOOST_CURRENT_FUNCTION, kResolveLine);
     }
 };
 
@@ -41,7 +42,7 @@ void Localizer::Init(
     const boost::shared_ptr<Dictionary>& commonResourceDictionary,
     const boost::shared_ptr<qor::CriticalSection>& commonResourceDictionarySyncObject,
     const qor::string16_t& scope, const Culture& culture, IParamResolver* paramResolver,
-    const qor::objptr_t<IErrorListener>& errorListener) {
+    qor::objptr_t<IErrorListener> errorListener) {
     const char* const function = BOOST_CURRENT_FUNCTION;
     CheckNotNull(resourceProvider,
                  {"resourceProvider", function, kServiceSource, kResourceProviderLine});
@@ -50,15 +51,16 @@ void Localizer::Init(
     CheckNotNull(commonResourceDictionarySyncObject,
                  {"commonResourceDictionarySyncObject", function, kServiceSource, kSyncObjectLine});
     CheckNotNull(errorListener, {"errorListener", function, kServiceSource, kErrorListenerLine});
-    LocalizerBase::Init(scope, culture, boost::make_shared<ParamResolverWrapper>(paramResolver),
-                        errorListener);
+    LocalizerBase::Init(scope, culture,
+                        boost::make_shared<ParamResolverWrapper>(paramResolver, *GetAllocator()),
+                        std::move(errorListener));
     resourceProvider_ = resourceProvider;
     commonResourceDictionary_ = commonResourceDictionary;
     commonResourceDictionarySyncObject_ = commonResourceDictionarySyncObject;
 }
 
 qor::result_t Localizer::GetString(const qor::string16_t& key, qor::string16_t& result) {
-    return GetResolvedString(key, result, nullptr);
+    return LocalizerBase::GetResolvedString(key, result, nullptr);
 }
 
 qor::result_t Localizer::GetStream(const qor::string16_t& key, qor::IIO** stream) {
@@ -66,11 +68,8 @@ qor::result_t Localizer::GetStream(const qor::string16_t& key, qor::IIO** stream
         return qor::rcInvalidArgument;
     }
     try {
-        using BinaryIOObject = qor::ComponentObject<BinaryIO>;
-        qor::objptr_t<BinaryIOObject> created;
-        ::LocalizationManager::CheckCall(
-            BinaryIOObject::CreateInstance(GetServiceLocator(), created.Ref()),
-            "cannot create BinaryIO",
+        auto created = CreateComponent<BinaryIO>(
+            GetServiceLocator(), "cannot create BinaryIO",
             {"qor::Object<BinaryIO>::CreateInstance(GetServiceLocator(), stream.Ref())",
              BOOST_CURRENT_FUNCTION, kServiceSource, kCreateStreamLine});
         const std::u16string path = FindResource(key);
@@ -81,13 +80,14 @@ qor::result_t Localizer::GetStream(const qor::string16_t& key, qor::IIO** stream
         *stream = created.Detach();
         return qor::rcOk;
     } catch (const std::exception& failure) {
-        ReportError("cannot open binary resource file stream", key, failure);
+        ReportError("cannot open binary resource file stream", key.view(), failure);
         return qor::rcUnspecifiedError;
     }
 }
 
 qor::result_t Localizer::HasResource(const qor::string16_t& key) {
-    return FindResource(key).empty() ? qor::rcUnspecifiedError : qor::rcOk;
+    return AtBoundary(
+        [&] { return FindResource(key).empty() ? qor::rcUnspecifiedError : qor::rcOk; });
 }
 
 qor::result_t Localizer::GetPath(const qor::string16_t& key, qor::string16_t& path) {
@@ -102,7 +102,7 @@ qor::result_t Localizer::GetPath(const qor::string16_t& key, qor::string16_t& pa
         path = found;
         return qor::rcOk;
     } catch (const std::exception& failure) {
-        ReportError("cannot get path", key, failure);
+        ReportError("cannot get path", key.view(), failure);
         return qor::rcUnspecifiedError;
     }
 }

@@ -29,7 +29,7 @@ public:
               const boost::shared_ptr<Dictionary>& commonResourceDictionary,
               const boost::shared_ptr<qor::CriticalSection>& commonResourceDictionarySyncObject,
               const qor::string16_t& scope, const Culture& culture, IParamResolver* paramResolver,
-              const qor::objptr_t<IErrorListener>& errorListener);
+              qor::objptr_t<IErrorListener> errorListener);
 
     qor::result_t GetString(const qor::string16_t& key, qor::string16_t& result) override;
     qor::result_t GetStream(const qor::string16_t& key, qor::IIO** stream) override;

@@ -1,10 +1,12 @@
 #include "LocalizerBase.h"
 
+#include <boost/container/small_vector.hpp>
 #include <utility>
 
 #include "CultureNames.h"
-#include "Messages.h"
-#include "Utf8.h"
+#include "HostResolveListener.h"
+#include "MessageUtf8.h"
+#include "failure_reports.h"
 
 namespace localization_manager {
 
@@ -12,9 +14,9 @@ using ::LocalizationManager::Text::ToUtf8;
 
 void LocalizerBase::Init(const qor::string16_t& scope, const Culture& culture,
                          boost::shared_ptr<EngineParamResolver> paramResolver,
-                         const qor::objptr_t<IErrorListener>& errorListener) {
-    errorListener_ = errorListener;
-    culture_ = culture;
+                         qor::objptr_t<IErrorListener> errorListener) {
+    errorListener_ = std::move(errorListener);
+    culture_.emplace(culture);
     paramResolver_ = std::move(paramResolver);
     scope_ = scope.view();
 }
@@ -35,40 +37,51 @@ qor::result_t LocalizerBase::GetResolvedString(const qor::string16_t& key, qor::
     if (provider == nullptr) {
         return qor::rcUnspecifiedError;
     }
+    // A callback may use the host's string for something else before the key is heard or reported.
+    boost::container::small_vector<char16_t, 64> kept;
+    std::u16string_view asked = key.view();
     try {
-        // A listener hears the key last; the host may use its string for something else by then.
-        const std::u16string heard(listener != nullptr ? key.view() : std::u16string_view());
-        const std::u16string_view asked = listener != nullptr ? heard : key.view();
-        result = provider->GetString(asked, listener).view();
+        kept.assign(asked.begin(), asked.end());
+        asked = {kept.data(), kept.size()};
+        std::optional<HostResolveListener> heardBy;
+        if (listener != nullptr) {
+            heardBy.emplace(*listener, *GetAllocator());
+        }
+        engine::Resolving::ResolvedText text;
+        // Without a listener the copy is not read yet, which would wait until it is written.
+        provider->GetString(heardBy ? asked : key.view(), heardBy ? &*heardBy : nullptr, text);
+        result = text.view();
         return qor::rcOk;
     } catch (const std::exception& failure) {
-        ReportError("cannot get string", key, failure);
+        ReportError("cannot get string", asked, failure);
         return qor::rcUnspecifiedError;
     }
 }
 
-LocalizerBase::StringProvider* LocalizerBase::EnsureStringProvider() {
+LocalizerBase::StringProvider* LocalizerBase::BuildStringProvider() {
     try {
-        return &stringProvider_.Get(BuildLock(), [this] {
+        return &stringProvider_.GetOrBuild(BuildLock(), [this] {
             std::unique_ptr<StringProvider> pipeline = BuildPipeline(paramResolver_);
             paramResolver_.reset();
             return pipeline;
         });
     } catch (const std::exception& failure) {
         localization_manager::ReportError(*errorListener_, [&] {
-            return "localization manager error: cannot create string localizer for scope " +
-                   ToUtf8(scope_) + " culture " + CultureText(culture_) +
-                   ", error: " + WhatOf(failure);
+            return JoinReport(
+                *GetAllocator(),
+                {"localization manager error: cannot create string localizer for scope ",
+                 ToUtf8(scope_), " culture ", CultureText(culture()),
+                 ", error: ", WhatOf(failure)});
         });
         return nullptr;
     }
 }
 
-void LocalizerBase::ReportError(const char* what, const qor::string16_t& key,
+void LocalizerBase::ReportError(const char* what, std::u16string_view key,
                                 const std::exception& failure) {
     localization_manager::ReportError(*errorListener_, [&] {
-        return std::string("localization manager error: ") + what +
-               " for key: " + ToUtf8(key.view()) + ", error: " + WhatOf(failure);
+        return JoinReport(*GetAllocator(), {"localization manager error: ", what, " for key: ",
+                                            ToUtf8(key), ", error: ", WhatOf(failure)});
     });
 }
 

@@ -3,6 +3,7 @@
 
 #include <boost/shared_ptr.hpp>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "CriticalSection.h"
@@ -37,7 +38,7 @@ protected:
     /// Called once, by the `Init` of the derived class.
     void Init(const qor::string16_t& scope, const Culture& culture,
               boost::shared_ptr<EngineParamResolver> paramResolver,
-              const qor::objptr_t<IErrorListener>& errorListener);
+              qor::objptr_t<IErrorListener> errorListener);
 
     /// Builds the pipeline; runs under `BuildLock`.
     virtual std::unique_ptr<StringProvider> BuildPipeline(
@@ -45,18 +46,22 @@ protected:
     virtual qor::CriticalSection& BuildLock() = 0;
 
     /// Reports that something could not be done for a key.
-    void ReportError(const char* what, const qor::string16_t& key, const std::exception& failure);
+    void ReportError(const char* what, std::u16string_view key, const std::exception& failure);
 
     const std::u16string& scope() const noexcept { return scope_; }
-    const Culture& culture() const noexcept { return culture_; }
+    const Culture& culture() const noexcept { return *culture_; }
 
 private:
     /// Null when the pipeline cannot be built, which is then reported.
-    StringProvider* EnsureStringProvider();
+    StringProvider* EnsureStringProvider() {
+        StringProvider* const provider = stringProvider_.Get();
+        return provider != nullptr ? provider : BuildStringProvider();
+    }
+    StringProvider* BuildStringProvider();
 
     LazyStringProvider stringProvider_;
     std::u16string scope_;
-    Culture culture_;
+    std::optional<Culture> culture_;  // constructed, so that its strings keep their allocators
     boost::shared_ptr<EngineParamResolver> paramResolver_;  // until the pipeline holds it
     qor::objptr_t<IErrorListener> errorListener_;
 };

@@ -5,7 +5,7 @@
 
 #include "CultureConverterImpl.h"
 #include "LocalizationManager.h"
-#include "qor/rtl/error_handling/current_exception.h"
+#include "qor/rtl/error_handling/result_from_current_exception.h"
 #include "qor/rtl/objclient/get_service.h"
 #include "qor/rtl/object_model/GenericObjectFactory.h"
 #include "qor/rtl/object_model/LocatorObjectFactory.h"
@@ -38,6 +38,9 @@ extern "C" {
 
 BOOST_SYMBOL_EXPORT qor::result_t qorGetObjectFactory(qor::IServiceLocator* serviceLocator,
                                                       std::uint32_t classId, void** factory) {
+    if (factory == nullptr) {
+        return qor::rcInvalidArgument;
+    }
     switch (classId) {
         case class_id::LocalizationManager:
             return CreateFactory<localization_manager::LocalizationManager>(serviceLocator,

@@ -11,7 +11,7 @@ namespace localization_manager {
 /// Implemented by the host, which passes it to `ILocalizationManager::InitEx`, or by the module,
 /// which then forwards to the host's tracer. Called from whichever thread made the failing request,
 /// after all locks are left. Texts are UTF-8 without a line break at the end and belong to the
-/// caller. Results are ignored, and so is what an implementation throws.
+/// caller. Results are ignored, and so is what is thrown; on Windows nothing may be.
 class IErrorListener : public qor::IObject {
 public:
     static constexpr std::uint32_t InterfaceId = 0x3E9CBC27;

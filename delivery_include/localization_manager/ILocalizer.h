@@ -14,7 +14,8 @@ namespace localization_manager {
 /// may be called from several threads at once. Out arguments are written on `rcOk` only.
 ///
 /// The sources are read and compiled at the first request for a string; when that fails, the
-/// request fails and the next one tries again. Keys of strings do not depend on letter case.
+/// request fails and the next one tries again. Keys of strings do not depend on letter case. Keys
+/// of resource files become part of a path as they stand, and may lead out of the tree.
 ///
 /// "Reported" failures send one text to the error listener that the manager was initialised with.
 class ILocalizer : public qor::IObject {
@@ -37,8 +38,8 @@ public:
     /// Whether the scope has a resource file `key`.
     /// @return `rcOk` when it exists, `rcUnspecifiedError` when not; `rcNotImplemented` from a
     ///         localizer made by `CreateBufferLocalizer`.
-    /// @throws std::range_error for a culture whose language is none of `Language`;
-    ///         std::bad_alloc.
+    /// @throws std::range_error for a culture whose language is none of `Language`; std::bad_alloc
+    ///         (Windows: `rcUnknownException` and `rcOutOfMemory` instead).
     virtual qor::result_t HasResource(const qor::string16_t& key) = 0;
 
     /// Whether the scope's or the common source has the key.

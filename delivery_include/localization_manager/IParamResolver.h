@@ -13,8 +13,10 @@ public:
     /// @param name    the parameter's name as the text writes it after "$", letter case kept.
     /// @param result  receives the text; empty when called. For a plural form it must be a decimal
     ///                integer of 64 bits.
-    /// @return a failure code, or a standard exception, makes the request for the text fail, with
-    ///         the parameter's name and the code's message in the report.
+    /// @return a failure code makes the request for the text fail, with the parameter's name and
+    ///         the code's message in the report.
+    /// @throws std::exception makes it fail as well; the report has what that says, and the
+    ///         parameter's name only if it is part of that. On Windows nothing may be thrown.
     virtual qor::result_t Resolve(const qor::string16_t& name, qor::string16_t& result) = 0;
 
 protected:

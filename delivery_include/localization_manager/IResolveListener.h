@@ -21,7 +21,7 @@ class IResolveListener : public qor::IObject {
 public:
     /// Called in the order of resolving: what a plural form contains before the form, the key last.
     /// @param source  empty but for keys.
-    /// @return not examined; a standard exception makes the request fail.
+    /// @return not examined; a standard exception, not on Windows, makes the request fail.
     virtual qor::result_t OnResolved(ResolveKind kind, const qor::string16_t& source,
                                      const qor::string16_t& name, const qor::string16_t& value) = 0;
 

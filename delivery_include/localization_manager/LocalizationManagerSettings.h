@@ -13,7 +13,7 @@ struct LocalizationManagerSettings {
     qor::string16_t alternative;
 };
 
-static_assert(sizeof(void*) != 8 || sizeof(LocalizationManagerSettings) == 80,
+static_assert(sizeof(LocalizationManagerSettings) == (sizeof(void*) == 4 ? 64 : 80),
               "the size of the settings is part of the binary contract");
 
 }  // namespace localization_manager

@@ -20,7 +20,8 @@ inline constexpr std::uint32_t CultureConverter = 0xBCE7112A;
 /// @param classId         a `class_id`.
 /// @param factory         receives a `qor::IObjectFactory` with one reference that the caller owns;
 ///                        null for an unknown class; untouched when memory runs out.
-/// @return `rcOk`, `rcNotImplemented` for an unknown class, `rcOutOfMemory`.
+/// @return `rcOk`, `rcNotImplemented` for an unknown class, `rcOutOfMemory`, `rcInvalidArgument`
+///         for a null `factory`.
 using GetObjectFactoryFunction = qor::result_t (*)(qor::IServiceLocator* serviceLocator,
                                                    std::uint32_t classId, void** factory);
 inline constexpr const char* kGetObjectFactoryName = "qorGetObjectFactory";

@@ -3,8 +3,9 @@
 
 #include <cstddef>
 #include <limits>
-#include <new>
+#include <utility>
 
+#include "qor/BadAllocation.h"
 #include "qor/IAllocator.h"
 #include "qor/objptr_t.h"
 #include "qor/platform/process_heap.h"
@@ -17,18 +18,18 @@ template <class T>
 class Allocator {
 public:
     Allocator() noexcept = default;
-    explicit Allocator(IAllocator* source) : source_(source) {}
+    explicit Allocator(objptr_t<IAllocator> source) noexcept : source_(std::move(source)) {}
 
-    /// @throws std::bad_alloc when there is no memory.
+    /// @throws BadAllocation when there is no memory.
     T* allocate(std::size_t count) {
         if (count > std::numeric_limits<std::size_t>::max() / sizeof(T)) {
-            throw std::bad_alloc();
+            throw BadAllocation();
         }
         const std::size_t size = count * sizeof(T);
         void* const memory =
             source_ ? source_->Alloc(size) : platform::AllocateFromProcessHeap(size);
         if (memory == nullptr) {
-            throw std::bad_alloc();
+            throw BadAllocation();
         }
         return static_cast<T*>(memory);
     }
@@ -43,6 +44,10 @@ public:
 
     /// The host's allocator, without a new reference; null for the process heap.
     IAllocator* source() const noexcept { return source_.get(); }
+
+    friend bool operator==(const Allocator& left, const Allocator& right) noexcept {
+        return left.source() == right.source();
+    }
 
 private:
     objptr_t<IAllocator> source_;

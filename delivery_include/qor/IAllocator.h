@@ -8,7 +8,9 @@
 
 namespace qor {
 
-/// Implemented by the host; called from any thread that uses an object made with it.
+/// Implemented by the host; called from every thread that uses an object made with it, so from all that
+/// ask for texts, several at once if the host does: what the host's callbacks take is stored here. A
+/// call may come under the lock that the localizers of a culture share; it must not ask for a text.
 class IAllocator : public IObject {
 public:
     static constexpr std::uint32_t InterfaceId = 0x9CCA5603;

@@ -15,7 +15,8 @@ inline constexpr std::int32_t End = 2;
 }  // namespace seek_origin
 
 /// Positions and sizes are bytes from the start of the stream. A stream has one position, so it
-/// belongs to one thread at a time. Out arguments are written on success only.
+/// belongs to one thread at a time. Out arguments are written on success only; where one may not be
+/// null, null is answered with `rcInvalidArgument` and nothing is done.
 class IIO : public IObject {
 public:
     static constexpr std::uint32_t InterfaceId = 0x0000000A;
@@ -30,7 +31,8 @@ public:
     /// Not supported by the read-only streams of this component: `rcNotSupported`.
     virtual result_t Write(const void* source, std::uint32_t size, std::uint32_t* written) = 0;
 
-    /// Moves the position; beyond the end is allowed, before the start is an error.
+    /// Moves the position; beyond the end is allowed, before the start is an error. The largest
+    /// position that a file can take depends on its file system.
     /// @param origin    a `seek_origin`.
     /// @param offset    bytes, may be negative.
     /// @param position  receives the new position; may be null.

@@ -23,8 +23,8 @@ public:
     /// Asks for another interface of the same object.
     /// @param interfaceId  the interface wanted; 0 stands for the object's first interface.
     /// @param out          receives the interface pointer, with one reference that the caller owns;
-    ///                     null when the interface is not supported. Must not be null itself.
-    /// @return `rcOk`, or `rcInterfaceNotSupported`.
+    ///                     null when the interface is not supported.
+    /// @return `rcOk`; `rcInterfaceNotSupported`; `rcInvalidArgument` for a null `out`.
     virtual result_t QueryInterface(std::uint32_t interfaceId, void** out) = 0;
 
 protected:

@@ -19,7 +19,9 @@ public:
     ///                        when the class does not have the interface; untouched when the object
     ///                        could not be made.
     /// @return `rcOk`; `rcInterfaceNotSupported`; the locator's own code when it gives no allocator
-    ///         or tracer; `rcOutOfMemory`; `rcInvalidArgument` for a null locator.
+    ///         or tracer; `rcOutOfMemory`; `rcInvalidArgument` for a null locator, and for a null
+    ///         `out` once the object could be made; `rcUnexpected` when the locator succeeds, or
+    ///         throws a success code, without the object coming about.
     virtual result_t CreateObject(IServiceLocator* serviceLocator, std::uint32_t interfaceId,
                                   void** out) = 0;
 

@@ -8,7 +8,9 @@
 namespace qor {
 
 /// Implemented by the host, which hands it to every factory call. It must answer at least
-/// `IAllocator` and `ITracer`, from any thread that creates objects.
+/// `IAllocator` and `ITracer`, from any thread that creates objects. The allocator has to be the
+/// same one at every call: an object's memory comes from what one call answers, and goes back to
+/// what another did.
 class IServiceLocator : public IObject {
 public:
     /// @param interfaceId  identifier of the service's interface.

@@ -14,6 +14,9 @@ struct InterfaceList {
     /// `IObject::QueryInterface` for an object that derives from all listed interfaces.
     template <class Object>
     static result_t Query(Object& object, std::uint32_t interfaceId, void** out) {
+        if (out == nullptr) {
+            return rcInvalidArgument;
+        }
         void* found = nullptr;
         if (interfaceId == IObject::InterfaceId || interfaceId == First::InterfaceId) {
             found = static_cast<First*>(&object);

@@ -15,7 +15,8 @@ namespace qor::types {
 
 /// A zero-terminated string whose layout host and component agree on. Short texts live in the
 /// object; longer ones in storage of the string's own allocator, which is fixed when the string is
-/// made: a copy shares the allocator of its source, an assignment keeps the target's.
+/// made: a copy shares the allocator of its source, an assignment keeps the target's. Moving takes
+/// the storage over; an assignment from a string of another allocator copies.
 ///
 /// Every operation that can fail throws `std::bad_alloc`, `std::length_error` or
 /// `std::out_of_range` and leaves the string as it was. Not synchronised.
@@ -29,7 +30,9 @@ public:
 
     basic_string_t() noexcept { reset_to_inline(); }
 
-    explicit basic_string_t(const Alloc& allocator) : allocator_(allocator) { reset_to_inline(); }
+    explicit basic_string_t(Alloc allocator) noexcept : allocator_(std::move(allocator)) {
+        reset_to_inline();
+    }
 
     /// @param text  zero-terminated; null makes an empty string.
     basic_string_t(const CharT* text, const Alloc& allocator = Alloc())
@@ -65,6 +68,15 @@ public:
 
     basic_string_t& operator=(const basic_string_t& other) {
         return this == &other ? *this : assign(other.data_, other.size_);
+    }
+
+    // NOLINTNEXTLINE(bugprone-exception-escape,performance-noexcept-move-constructor): it may copy
+    basic_string_t& operator=(basic_string_t&& other) {
+        if (allocator_ == other.allocator_) {
+            basic_string_t(std::move(other)).swap_contents(*this);
+            return *this;
+        }
+        return assign(other.data_, other.size_);
     }
 
     basic_string_t& operator=(view_type text) { return assign(text.data(), text.size()); }
@@ -229,7 +241,7 @@ private:
     std::uint32_t size_;
     std::uint32_t capacity_;
     Alloc allocator_;
-    CharT inline_[kInlineBytes / sizeof(CharT)];
+    CharT inline_[kInlineBytes / sizeof(CharT)] = {};
 };
 
 /// Holds the fields to their places.

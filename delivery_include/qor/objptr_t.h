@@ -7,9 +7,9 @@
 
 namespace qor {
 
-/// Holds one reference on an object, or nothing. One pointer wide; passed by value between host and
-/// component, where the caller makes and destroys the argument and the callee takes a reference of
-/// its own.
+/// Holds one reference on an object, or nothing. One pointer wide. As an argument by value between
+/// host and component, where the caller makes and destroys it and the callee takes a reference of
+/// its own, except on Windows: see `qor/platform/object_argument.h`.
 template <class Interface>
 class objptr_t {
 public:

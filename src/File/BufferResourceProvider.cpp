@@ -25,7 +25,7 @@ BufferResourceProvider::BufferResourceProvider(
 }
 
 BufferResourceProvider::ResourceContent BufferResourceProvider::GetResource(
-    const std::u16string& name, const Culture& culture) {
+    const std::u16string& name, const Culture& culture) const {
     if (name == StringLocalizing::Pipeline::kCommonResourceName && !commonBuffer_.empty()) {
         return {commonBuffer_, name};
     }
@@ -35,18 +35,18 @@ BufferResourceProvider::ResourceContent BufferResourceProvider::GetResource(
     return {buffer_, scopeName_};
 }
 
-bool BufferResourceProvider::HasPluralFormRules(const PluralFormRuleId& id) {
+bool BufferResourceProvider::HasPluralFormRules(const PluralFormRuleId& id) const {
     return resourceProvider_->HasPluralFormRules(id);
 }
 
 BufferResourceProvider::ResourceContent BufferResourceProvider::GetPluralFormRules(
-    const PluralFormRuleId& id) {
+    const PluralFormRuleId& id) const {
     return resourceProvider_->GetPluralFormRules(id);
 }
 
 std::u16string BufferResourceProvider::GetResourcePath(const std::u16string& scope,
                                                        const Culture& culture,
-                                                       const std::u16string& fileName) {
+                                                       const std::u16string& fileName) const {
     return resourceProvider_->GetResourcePath(scope, culture, fileName);
 }
 

@@ -27,12 +27,12 @@ public:
     BufferResourceProvider& operator=(const BufferResourceProvider&) = delete;
 
     ResourceContent GetResource(const std::u16string& name,
-                                const localization_manager::Culture& culture) override;
-    bool HasPluralFormRules(const PluralFormRuleId& id) override;
-    ResourceContent GetPluralFormRules(const PluralFormRuleId& id) override;
+                                const localization_manager::Culture& culture) const override;
+    bool HasPluralFormRules(const PluralFormRuleId& id) const override;
+    ResourceContent GetPluralFormRules(const PluralFormRuleId& id) const override;
     std::u16string GetResourcePath(const std::u16string& scope,
                                    const localization_manager::Culture& culture,
-                                   const std::u16string& fileName) override;
+                                   const std::u16string& fileName) const override;
 
 private:
     boost::shared_ptr<StringLocalizing::Pipeline::IResourceProvider> resourceProvider_;

@@ -2,21 +2,19 @@
 
 #include <boost/current_function.hpp>
 #include <stdexcept>
-#include <vector>
 
-#include "CultureNames.h"
 #include "FileContent.h"
+#include "FromUtf8.h"
+#include "MessageUtf8.h"
 #include "Platform.h"
-#include "Utf8.h"
+#include "TreeLayout.h"
 #include "qor/rtl/contracts/checks.h"
-#include "qor/rtl/filesystem/File.h"
+#include "qor/rtl/filesystem/path_attributes.h"
 #include "qor/rtl/text/Cast.h"
 
 namespace LocalizationManager::File {
 
 using localization_manager::Culture;
-using localization_manager::Language;
-using localization_manager::LanguageToIsoName;
 
 namespace {
 
@@ -24,11 +22,6 @@ namespace {
 constexpr const char* kSource = "src\\File/FileResourceProvider";
 constexpr std::int32_t kRootLine = 112;
 constexpr std::int32_t kAlternativeLine = 116;
-
-constexpr const char16_t* kNeutralDirectory = u"neutral";
-constexpr const char16_t* kTextsDirectory = u"Locs";
-constexpr const char16_t* kTextsExtension = u".lt";
-constexpr const char16_t* kPluralRuleFile = u"Plural.rule";
 
 /// Joins two parts of a path. The right part may hold separators itself, written in either way.
 std::u16string AppendPathComponent(std::u16string left, std::u16string_view right) {
@@ -39,22 +32,6 @@ std::u16string AppendPathComponent(std::u16string left, std::u16string_view righ
         left += Platform::kPathSeparator;
     }
     return left += Platform::NativePath(right);
-}
-
-/// The names of a culture's directories, most specific first.
-std::vector<std::u16string> CultureDirectories(const Culture& culture) {
-    const auto iso = qor::text::Cast<std::u16string>(LanguageToIsoName(culture.language));
-    std::vector<std::u16string> directories;
-    if (!culture.region.empty()) {
-        const std::u16string regional = iso + u"-" + Text::FromUtf8(culture.region.view());
-        if (!culture.variant.empty()) {
-            directories.push_back(regional + u"-" + Text::FromUtf8(culture.variant.view()));
-        }
-        directories.push_back(regional);
-    }
-    directories.push_back(iso);
-    directories.emplace_back(kNeutralDirectory);
-    return directories;
 }
 
 std::u16string FindResourceFile(const std::u16string& base, const Culture& culture,
@@ -88,20 +65,21 @@ FileResourceProvider::FileResourceProvider(const std::u16string& rootLocalizatio
 }
 
 ResourceContent FileResourceProvider::GetResource(const std::u16string& name,
-                                                  const Culture& culture) {
-    const std::u16string fileName = name + kTextsExtension;
-    const std::u16string path = Find(culture, AppendPathComponent(kTextsDirectory, fileName));
+                                                  const Culture& culture) const {
+    const std::u16string fileName = name + std::u16string(kTextsExtension);
+    const std::u16string path =
+        Find(culture, AppendPathComponent(std::u16string(kTextsDirectory), fileName));
     if (path.empty()) {
         throw std::runtime_error("cannot find localization file '" + Text::ToUtf8(fileName) + "'");
     }
     return {GetFileContent(path), path};
 }
 
-bool FileResourceProvider::HasPluralFormRules(const PluralFormRuleId& id) {
+bool FileResourceProvider::HasPluralFormRules(const PluralFormRuleId& id) const {
     return !FindPluralFormRulesPath(id).empty();
 }
 
-ResourceContent FileResourceProvider::GetPluralFormRules(const PluralFormRuleId& id) {
+ResourceContent FileResourceProvider::GetPluralFormRules(const PluralFormRuleId& id) const {
     const auto path = qor::text::Cast<std::u16string>(FindPluralFormRulesPath(id).view());
     if (path.empty()) {
         throw std::runtime_error("cannot find plural form file for id '" + ToText(id) + "'");
@@ -111,24 +89,22 @@ ResourceContent FileResourceProvider::GetPluralFormRules(const PluralFormRuleId&
 
 std::u16string FileResourceProvider::GetResourcePath(const std::u16string& scope,
                                                      const Culture& culture,
-                                                     const std::u16string& fileName) {
+                                                     const std::u16string& fileName) const {
     return Find(culture, AppendPathComponent(scope, fileName));
 }
 
-qor::string16_t FileResourceProvider::FindPluralFormRulesPath(const PluralFormRuleId& id) {
-    const std::string iso = LanguageToIsoName(static_cast<Language>(id.language));
-    const std::u16string languageDirectory =
-        AppendPathComponent(rootLocalizationUri_, qor::text::Cast<std::u16string>(iso));
-    if (!id.region.empty()) {
-        const std::u16string path = AppendPathComponent(
-            AppendPathComponent(languageDirectory, Text::FromUtf8(id.region)), kPluralRuleFile);
+qor::string16_t FileResourceProvider::FindPluralFormRulesPath(const PluralFormRuleId& id) const {
+    for (const auto& directories : PluralRuleDirectories(id)) {
+        std::u16string path = rootLocalizationUri_;
+        for (const std::u16string& directory : directories) {
+            path = AppendPathComponent(path, directory);
+        }
+        path = AppendPathComponent(path, kPluralRuleFile);
         if (qor::filesystem::Exists(path)) {
             return qor::text::Cast<qor::string16_t>(path);
         }
     }
-    const std::u16string path = AppendPathComponent(languageDirectory, kPluralRuleFile);
-    return qor::filesystem::Exists(path) ? qor::text::Cast<qor::string16_t>(path)
-                                         : qor::string16_t();
+    return {};
 }
 
 /// Searches the alternative tree, when there is one, then the root tree.

@@ -25,17 +25,17 @@ public:
     FileResourceProvider& operator=(const FileResourceProvider&) = delete;
 
     ResourceContent GetResource(const std::u16string& name,
-                                const localization_manager::Culture& culture) override;
-    bool HasPluralFormRules(const PluralFormRuleId& id) override;
-    ResourceContent GetPluralFormRules(const PluralFormRuleId& id) override;
+                                const localization_manager::Culture& culture) const override;
+    bool HasPluralFormRules(const PluralFormRuleId& id) const override;
+    ResourceContent GetPluralFormRules(const PluralFormRuleId& id) const override;
     std::u16string GetResourcePath(const std::u16string& scope,
                                    const localization_manager::Culture& culture,
-                                   const std::u16string& fileName) override;
+                                   const std::u16string& fileName) const override;
 
 protected:
     /// The plural rules of the region, or else of the language, in the root tree; empty when there
     /// are none.
-    virtual qor::string16_t FindPluralFormRulesPath(const PluralFormRuleId& id);
+    virtual qor::string16_t FindPluralFormRulesPath(const PluralFormRuleId& id) const;
 
 private:
     std::u16string Find(const localization_manager::Culture& culture,

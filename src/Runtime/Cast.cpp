@@ -1,26 +1,32 @@
 #include "qor/rtl/text/Cast.h"
 
+#include <optional>
 #include <typeinfo>
 
 #include "Platform.h"
+#include "qor/BadAllocation.h"
 
 namespace qor::text {
 
 namespace {
 
-template <class Text>
-Text OrBadCast(std::optional<Text> converted) {
+/// What `convert` makes of `source`, its failures as exceptions.
+template <class Text, class Source>
+Text Converted(std::optional<Text> (*convert)(Source), Source source) try {
+    std::optional<Text> converted = convert(source);
     if (!converted) {
         throw std::bad_cast();
     }
     return *std::move(converted);
+} catch (const std::bad_alloc&) {
+    throw BadAllocation();
 }
 
 }  // namespace
 
 template <>
 std::u16string Cast<std::u16string>(std::string_view source) {
-    return OrBadCast(Platform::WidenMultibyte(source));
+    return Converted(&Platform::WidenMultibyte, source);
 }
 
 template <>
@@ -30,7 +36,7 @@ string16_t Cast<string16_t>(std::string_view source) {
 
 template <>
 std::string Cast<std::string>(std::u16string_view source) {
-    return OrBadCast(Platform::NarrowToMultibyte(source));
+    return Converted(&Platform::NarrowToMultibyte, source);
 }
 
 template <>

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "hexadecimal.h"
-#include "qor/rtl/error_handling/result_messages.h"
+#include "qor/result_messages.h"
 
 namespace qor {
 

@@ -1,9 +1,9 @@
 #include <string>
 
+#include "qor/result_messages.h"
 #include "qor/rtl/contracts/ContractViolationException.h"
 #include "qor/rtl/contracts/QorCallFailedException.h"
 #include "qor/rtl/contracts/checks.h"
-#include "qor/rtl/error_handling/result_messages.h"
 #include "qor/rtl/text/Cast.h"
 
 namespace code_contracts {

@@ -71,11 +71,4 @@ void Trace(ITracer* tracer, std::uint32_t level, std::string_view text) {
     }
 }
 
-void TraceNoThrow(ITracer* tracer, std::uint32_t level, std::string_view text) noexcept {
-    try {
-        Trace(tracer, level, text);
-    } catch (...) {  // there is nobody left to tell
-    }
-}
-
 }  // namespace qor

@@ -36,7 +36,7 @@ private:
     const std::ctype<wchar_t>& letters_ = std::use_facet<std::ctype<wchar_t>>(locale_);
 };
 
-bool MapsAsciiAsUsual(const GlobalMapping& mapping) {
+bool LeavesAsciiAsUsual(const GlobalMapping& mapping) {
     char16_t unit = 0;
     while (unit < kAsciiEnd && mapping(unit) == AsciiLowerCase(unit)) {
         ++unit;
@@ -46,7 +46,7 @@ bool MapsAsciiAsUsual(const GlobalMapping& mapping) {
 
 }  // namespace
 
-LowerCaseMapping::LowerCaseMapping() : mapsAsciiAsUsual_(MapsAsciiAsUsual(GlobalMapping())) {}
+LowerCaseMapping::LowerCaseMapping() : mapsAsciiAsUsual_(LeavesAsciiAsUsual(GlobalMapping())) {}
 
 void LowerCaseMapping::Map(std::u16string_view key, char16_t* output) const {
     if (mapsAsciiAsUsual_ && IsAscii(key)) {

@@ -15,6 +15,9 @@ public:
     /// @param output  receives as many units; may be where the key stands.
     void Map(std::u16string_view key, char16_t* output) const;
 
+    /// Whether "A" to "Z" become "a" to "z", and the rest of ASCII stays.
+    bool MapsAsciiAsUsual() const noexcept { return mapsAsciiAsUsual_; }
+
 private:
     bool mapsAsciiAsUsual_;
 };

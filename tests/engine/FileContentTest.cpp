@@ -2,10 +2,11 @@
 #include "FileContent.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <boost/numeric/conversion/cast.hpp>
 
+#include "PeakMemory.h"
+#include "SystemTraits.h"
 #include "TempTree.h"
 
 namespace {
@@ -18,7 +19,6 @@ TEST(FileContentTest, TextIsUtf8WithoutMarkAndZerosAtTheEnd) {
     const std::pair<std::string_view, std::u16string_view> cases[] = {
         {"", u""},
         {"\xEF\xBB\xBF", u""},
-        {"\xEF\xBB", u"\uFFFD"},
         {"\xEF\xBB\xBF\xEF\xBB\xBFx", u"\uFEFFx"},
         {"\xEF\xBB\xBF\x41\0\0"sv, u"A"},
         {"a\0b\0"sv, u"a\0b"sv},
@@ -31,17 +31,35 @@ TEST(FileContentTest, TextIsUtf8WithoutMarkAndZerosAtTheEnd) {
     }
 }
 
+TEST(FileContentTest, WhatIsNoCharacterIsReplaced) {
+    const lm_test::TempTree tree;
+    const std::pair<std::string_view, std::u16string_view> cases[] = {
+        {"\xEF\xBB", u"\uFFFD"},
+        {"a\xE4z", u"a\uFFFDz"},
+        {"a\xF1\x80z", u"a\uFFFDz"},
+        {"\xED\xA0\x80!", u"\uFFFD\uFFFD\uFFFD!"},
+    };
+    for (const auto& [bytes, text] : cases) {
+        tree.Write("text", bytes);
+        const std::u16string content = GetFileContent(tree.Path("text"));
+        if (lm_test::kCountsIllFormedParts) {
+            EXPECT_TRUE(content == text) << testing::PrintToString(bytes);
+        } else {  // how many, and what is lost with them, is the system's affair
+            EXPECT_EQ(content.find(u'\uFFFD'), text.find(u'\uFFFD'));
+        }
+    }
+}
+
 TEST(FileContentTest, AFileOfTwoGibibytesAndMoreIsRefusedUnread) {
     const lm_test::TempTree tree;
-    rusage usage = {};
-    ::getrusage(RUSAGE_SELF, &usage);
-    const long before = usage.ru_maxrss;
+    const std::int64_t before = lm_test::PeakMemory();
     for (const std::uintmax_t size : {(1ULL << 31U) + 3, (1ULL << 32U) - 1, 1ULL << 32U}) {
         std::filesystem::resize_file(tree.Write("huge", "\xEF\xBB\xBF"), size);
         EXPECT_THROW(GetFileContent(tree.Path("huge")), boost::numeric::positive_overflow) << size;
     }
-    ::getrusage(RUSAGE_SELF, &usage);
-    EXPECT_LT(usage.ru_maxrss - before, 256 * 1024) << "KiB of memory at its peak";
+    EXPECT_THROW(LocalizationManager::File::DecodeFileContent("x", 1ULL << 31U),
+                 boost::numeric::positive_overflow);
+    EXPECT_LT(lm_test::PeakMemory() - before, 256 * 1024 * 1024) << "bytes of memory at the peak";
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <boost/make_shared.hpp>
-#include <chrono>
 
 #include "Cases.h"
 #include "DictionaryText.h"
@@ -45,33 +44,30 @@ TEST_F(ResourceCompilerTest, ReferencesAreInlinedTextsJoinedAndUnfinishedValuesL
     }
 }
 
-TEST_F(ResourceCompilerTest, CompilingAgainWritesNothing) {
-    *scope_ = ParseDictionary(u"a=b+$p+c b='x'+'y' c={$n:a,b} d='plain'");
-    std::vector<const char16_t*> places[2];
-    for (auto& compiled : places) {
-        EXPECT_EQ(Compile(), "");
-        for (const auto& entry : lm_test::EntriesOf(*scope_)) {
-            compiled.push_back(entry.second.code().data());
-        }
+TEST_F(ResourceCompilerTest, ValuesThatReferToOthersMayTakeSoManyUnits) {
+    constexpr std::size_t kMost = std::size_t{1} << 20U;
+    const auto text = [](std::size_t length) {
+        return u'\'' + std::u16string(length, u'x') + u'\'';
+    };
+    // A plural form that takes 36 units, an empty text that takes 3, a parameter that takes 4.
+    const std::u16string forms = u"f={$n:'','','','','',''} v=''";
+    std::u16string many;
+    while (many.size() / 2 < kMost / 36) {
+        many += u"+f";
     }
-    EXPECT_EQ(places[0], places[1]);
-}
-
-TEST_F(ResourceCompilerTest, LongChainsNeitherRecurseNorTakeSquareTime) {
-    constexpr int kLength = 100'000;
-    std::string source = "end='x'";
-    for (int i = 0; i < kLength; ++i) {
-        const std::string number = std::to_string(i);
-        const std::string next = i + 1 < kLength ? 'a' + std::to_string(i + 1) : "end";
-        source.append(" a").append(number).append("=").append(next);
-        source.append(" b").append(number).append("=a0+'!'");
+    const std::pair<std::u16string, bool> cases[] = {
+        {u"v=" + text(kMost) + u"+" + text(kMost) + u"+$n", true},
+        {u"v=t t=" + text(kMost - 3), true},
+        {u"v=t t=" + text(kMost - 2), false},
+        {u"v=t+" + text(kMost / 2 - 2) + u" t=" + text(kMost / 2 - 1), true},
+        {u"v=" + text(kMost / 2 - 2) + u"+t t=" + text(kMost / 2), false},
+        {forms + many, true},
+        {forms + u"+$n" + many, false},
+    };
+    for (const auto& [source, isAllowed] : cases) {
+        *scope_ = ParseDictionary(source);
+        EXPECT_EQ(Compile(), isAllowed ? "" : "Key 'v' expands to more than 1048576 characters");
     }
-    *scope_ = ParseDictionary({source.begin(), source.end()});
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(Compile(), "");
-    // Far above what one walk over all entries takes, far below a walk for each of them.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
-    EXPECT_EQ(lm_test::PrintValue(scope_->At(*scope_->Find(u"b99999")).value), "'x!'");
 }
 
 }  // namespace

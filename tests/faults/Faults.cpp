@@ -1,131 +1,89 @@
-// The linker sends the calls of the component and of the test to the functions below. A deed is not
-// itself at risk.
+// The linker sends the component's calls to the platform layer's files to the functions below.
 #include "Faults.h"
 
-#include <sys/stat.h>
-#include <sys/types.h>
+#include <cstdint>
+#include <string_view>
 
-#include <cerrno>
-#include <new>
-#include <utility>
-
-// NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's
-extern "C" {
-void* __real_malloc(std::size_t size);
-void __real_free(void* memory);
-int __real_open(const char* name, int flags, ...);
-int __real_stat(const char* name, struct stat* status);
-int __real_lstat(const char* name, struct stat* status);
-int __real_fstat(int file, struct stat* status);
-ssize_t __real_read(int file, void* destination, std::size_t wanted);
-}
+#include "InputFile.h"
+#include "Platform.h"
+#include "SystemTraits.h"
 
 namespace lm_test::faults {
 
 namespace {
 
 struct Plan {
-    Source source = Source::Memory;
-    std::size_t first = 1;
-    bool lasts = false;
-    Deed deed;
-    std::size_t calls = 0;
+    bool isActive;
+    Source source;
+    std::size_t first;
+    bool lasts;
+    std::size_t calls;
 };
 
-// Memory is asked for before and after `main`, so that the parts in use there need no making.
-Plan& ThePlan() {
-    static Plan plan;
-    return plan;
-}
+// Memory is asked for before and after `main`, too: nothing here needs making.
+Plan plan = {};
 
-bool isActive = false;
-std::size_t liveBlocks = 0;
-
-bool Fails(Source source) {
-    if (!isActive || ThePlan().source != source) {
-        return false;
-    }
-    Plan& plan = ThePlan();
-    if (++plan.calls < plan.first || (plan.calls > plan.first && !plan.lasts)) {
-        return false;
-    }
-    isActive = false;
-    const bool fails = plan.deed();
-    isActive = true;
-    return fails;
-}
-
-bool FileFails() {
-    errno = EIO;  // of no interest to calls that go well
-    return Fails(Source::Files);
-}
+constexpr Platform::ErrorNumber kGeneralFailure = 31;
 
 }  // namespace
 
-void Start(Source source, std::size_t first, bool lasts, Deed deed) {
-    ThePlan() = {source, first, lasts, std::move(deed)};
-    isActive = true;
+bool Fails(Source source) {
+    if (!plan.isActive || plan.source != source) {
+        return false;
+    }
+    ++plan.calls;
+    return plan.calls == plan.first || (plan.calls > plan.first && plan.lasts);
+}
+
+void Start(Source source, std::size_t first, bool lasts) {
+    plan = {true, source, first, lasts, 0};
 }
 
 bool Stop() {
-    isActive = false;
-    ThePlan().deed = nullptr;
-    return ThePlan().calls >= ThePlan().first;
-}
-
-std::size_t LiveBlocks() {
-    return liveBlocks;
+    plan.isActive = false;
+    return plan.calls >= plan.first;
 }
 
 }  // namespace lm_test::faults
 
-using namespace lm_test::faults;
+using lm_test::faults::Fails;
+using lm_test::faults::kGeneralFailure;
+using lm_test::faults::Source;
+using Platform::ErrorNumber;
+using Platform::InputFile;
 
+// Members as functions that are given their object. CMakeLists.txt has the names that the compiler gives them.
+#define LM_JOINED_AS_THEY_ARE(first, second) first##second
+#define LM_JOINED(first, second) LM_JOINED_AS_THEY_ARE(first, second)
+#define LM_REAL(name) LM_JOINED(__real_, name)
+#define LM_WRAP(name) LM_JOINED(__wrap_, name)
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" {
+ErrorNumber LM_MEMBER_FUNCTION LM_REAL(LM_OPEN)(InputFile* file, std::u16string_view path);
+ErrorNumber LM_MEMBER_FUNCTION LM_REAL(LM_READ)(InputFile* file, void* destination,
+                                                std::uint32_t wanted, std::uint32_t& read);
+ErrorNumber LM_MEMBER_FUNCTION LM_REAL(LM_GET_SIZE)(const InputFile* file, std::int64_t& size);
+ErrorNumber LM_REAL(LM_READ_PATH_ATTRIBUTES)(std::u16string_view path,
+                                             Platform::PathAttributes& attributes);
 
-void* __wrap_malloc(std::size_t size) {
-    void* const memory = Fails(Source::Memory) ? nullptr : __real_malloc(size);
-    liveBlocks += memory != nullptr ? 1 : 0;
-    return memory;
+ErrorNumber LM_MEMBER_FUNCTION LM_WRAP(LM_OPEN)(InputFile* file, std::u16string_view path) {
+    return Fails(Source::Files) ? kGeneralFailure : LM_REAL(LM_OPEN)(file, path);
 }
 
-void __wrap_free(void* memory) {
-    liveBlocks -= memory != nullptr ? 1 : 0;
-    __real_free(memory);
+ErrorNumber LM_MEMBER_FUNCTION LM_WRAP(LM_READ)(InputFile* file, void* destination,
+                                                std::uint32_t wanted, std::uint32_t& read) {
+    return Fails(Source::Files) ? kGeneralFailure
+                                : LM_REAL(LM_READ)(file, destination, wanted, read);
 }
 
-int __wrap_open(const char* name, int flags, ...) {
-    return FileFails() ? -1 : __real_open(name, flags);
+ErrorNumber LM_MEMBER_FUNCTION LM_WRAP(LM_GET_SIZE)(const InputFile* file, std::int64_t& size) {
+    return Fails(Source::Files) ? kGeneralFailure : LM_REAL(LM_GET_SIZE)(file, size);
 }
 
-int __wrap_stat(const char* name, struct stat* status) {
-    return FileFails() ? -1 : __real_stat(name, status);
+ErrorNumber LM_WRAP(LM_READ_PATH_ATTRIBUTES)(std::u16string_view path,
+                                             Platform::PathAttributes& attributes) {
+    return Fails(Source::Files) ? kGeneralFailure
+                                : LM_REAL(LM_READ_PATH_ATTRIBUTES)(path, attributes);
 }
-
-int __wrap_lstat(const char* name, struct stat* status) {
-    return FileFails() ? -1 : __real_lstat(name, status);
 }
-
-int __wrap_fstat(int file, struct stat* status) {
-    return FileFails() ? -1 : __real_fstat(file, status);
-}
-
-ssize_t __wrap_read(int file, void* destination, std::size_t wanted) {
-    return FileFails() ? -1 : __real_read(file, destination, wanted);
-}
-
-}  // extern "C"
-
-void* operator new(std::size_t size) {
-    void* const memory = __wrap_malloc(size);
-    return memory != nullptr ? memory : throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-    __wrap_free(memory);
-}
-
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    __wrap_free(memory);
-}
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)

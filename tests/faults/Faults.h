@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 
 namespace lm_test::faults {
 
@@ -10,18 +9,21 @@ namespace lm_test::faults {
 /// reading of a file.
 enum class Source { Memory, Files };
 
-/// What happens at a call; the answer is whether the call fails.
-using Deed = std::function<bool()>;
-
-/// Lets `deed` happen at the calls to `source` from now on, until `Stop`.
+/// Lets calls to `source` fail from now on, until `Stop`.
 /// @param first   the calls before this one, counted from 1, go well.
-/// @param lasts   whether it happens at all later calls, too.
-void Start(Source source, std::size_t first, bool lasts, Deed deed);
+/// @param lasts   whether all later calls fail, too.
+void Start(Source source, std::size_t first, bool lasts);
 
-/// @return whether there was such a call.
+/// @return whether a call failed.
 bool Stop();
 
 /// Blocks of memory that have not been given back.
 std::size_t LiveBlocks();
+
+/// Files that the process has open.
+std::size_t OpenFiles();
+
+/// Asked by each call to `source`: whether it is to fail.
+bool Fails(Source source);
 
 }  // namespace lm_test::faults

@@ -4,7 +4,7 @@
 #include "Cases.h"
 #include "DictionaryText.h"
 #include "ErrorText.h"
-#include "GlobalLocale.h"
+#include "NestingGuard.h"
 #include "ParsingException.h"
 
 namespace {
@@ -40,14 +40,12 @@ TEST(LocFileParserTest, ADuplicateKeyIsReportedWithoutAPlaceAndKeepsWhatCameBefo
     EXPECT_EQ(PrintDictionary(dictionary), "a = '1' a.b = '2' d = '5' e = '7'");
 }
 
-TEST(LocFileParserTest, TheGlobalLocaleDecidesWhatIsWhitespaceButNotHowNumbersPrint) {
-    const lm_test::GlobalLocale english("en_US.UTF-8");
-    EXPECT_EQ(PrintDictionary(ParseDictionary(u"\u2003A\u3000=\u2003'x'\u3000+\u2003B\u3000")),
-              "a = 'x' + b");
-    const std::u16string source = std::u16string(1233, u'\n') + std::u16string(1233, u' ') + u'?';
-    const std::string shown = LocalizationManager::Text::ToUtf8(source.substr(1233));
-    EXPECT_EQ(ErrorOf(source),
-              lm_test::FaultText("app.lt", "1234:1234 [" + shown + "] <eoi> here"));
+TEST(LocFileParserTest, FormsSideBySideAreNotNested) {
+    std::u16string source = u"a='x'";
+    for (int i = 0; i <= kMaxNesting; ++i) {
+        source += u"+{$n:'y'}";
+    }
+    EXPECT_EQ(ErrorOf(source), "");
 }
 
 }  // namespace

@@ -5,42 +5,32 @@
 #include "qor/rtl/error_handling/GetInterfaceException.h"
 #include "qor/rtl/error_handling/ResultCodeException.h"
 #include "qor/rtl/error_handling/contract_violations.h"
-#include "qor/rtl/error_handling/current_exception.h"
-#include "qor/rtl/error_handling/result_messages.h"
+#include "qor/rtl/error_handling/number_text.h"
+#include "qor/rtl/error_handling/result_from_current_exception.h"
 #include "qor/rtl/error_handling/trace.h"
 
 namespace {
 
 using namespace qor;
+using lm_test::FakeTracer;
+
+constexpr auto kNoRecord = std::string::npos;
 
 class ErrorHandlingTest : public testing::Test {
 protected:
-    const objptr_t<lm_test::FakeTracer> tracer_ =
-        localization_manager::host::Make<lm_test::FakeTracer>();
+    const objptr_t<FakeTracer> tracer_ = localization_manager::host::Make<FakeTracer>();
 };
-
-TEST_F(ErrorHandlingTest, PlatformErrorsMapToCodes) {
-    const std::pair<result_t, std::vector<std::uint32_t>> cases[] = {
-        {rcOk, {0, 0x10000, 0x12345, 0x7FFFFFFF, 0x80070000}},
-        {rcFileNotFound, {2, 0x80070002, 0xF0070002}},
-        {rcPathNotFound, {3, 53, 267}},
-        {rcSharingViolation, {32, 33}},
-        {rcInvalidArgument, {87, 160}},
-        {rcBufferTooSmall, {111, 122, 234}},
-        {detail::ResultCode(0x80070083), {131}},
-        {detail::ResultCode(0x8007FFFF), {0xFFFF, 0x8007FFFF}},
-        {detail::ResultCode(0x80010108), {14001}},
-        {rcUnspecifiedPlatformError, {0x80000000, 0x80040005, 0x80170002, 0xFFFFFFFF}}};
-    for (const auto& [code, errors] : cases) {
-        for (const std::uint32_t error : errors) {
-            EXPECT_EQ(ResultFromPlatformError(error), code) << error;
-        }
-    }
-}
 
 class PlainException : public ExceptionBase<PlainException, Exception> {
     using ExceptionBase::ExceptionBase;
 };
+
+ResultCodeException Chain() {
+    auto innermost = std::make_unique<GetInterfaceException>(0xA, rcLocked, "qor/c.h", 113);
+    auto middle = std::make_unique<ResultCodeException>(rcNotFound, "b.cpp", 20, u"\u0416",
+                                                        std::move(innermost));
+    return ResultCodeException(rcInvalidArgument, "a.cpp", 1, u"x", std::move(middle));
+}
 
 TEST_F(ErrorHandlingTest, EveryExceptionHasItsCodeAndRecordAlsoWhenTheTracerThrows) {
     const struct {
@@ -56,10 +46,13 @@ TEST_F(ErrorHandlingTest, EveryExceptionHasItsCodeAndRecordAlsoWhenTheTracerThro
          "E - m. At f(7) "},
         {[] { throw ResultCodeException(rcOk, "f", 7, u""); }, rcUnexpected,
          "ResultCodeException - 0x00000000 (No error). At f(7) "},
-        {[] { throw GetInterfaceException(0xA, rcLocked, "f", 7); }, rcLocked,
-         "GetInterfaceException - 0x8000004f (Locked): iid:0000000a. At f(7) "},
+        {[] { Chain().Clone()->Rethrow(); }, rcInvalidArgument,
+         "ResultCodeException - x: 0x80000046 (Invalid argument). At a.cpp(1) "
+         ";<Exception display text conversion error>"
+         ";GetInterfaceException - 0x8000004f (Locked): iid:0000000a. At qor/c.h(113) "},
         {[] { throw PlainException("P", "f", 7, u""); }, rcUnknownException, "P - . At f(7) "},
         {[] { throw std::bad_array_new_length(); }, rcOutOfMemory, "std::bad_array_new_length"},
+        {[] { throw BadAllocation(); }, rcOutOfMemory, "bad allocation"},
         {[] { throw std::length_error("long"); }, rcOutOfMemory, "long"},
         {[] { throw std::logic_error("other"); }, rcUnknownException, "other"},
         {[] { throw 42; }, rcUnknownException, nullptr},
@@ -82,33 +75,40 @@ TEST_F(ErrorHandlingTest, EveryExceptionHasItsCodeAndRecordAlsoWhenTheTracerThro
     }
 }
 
+TEST(NumberTextTest, PrefixAndPaddingStandWhereTheFormatPutsThem) {
+    string16_t text;
+    const auto append = [&text](std::u16string_view prefix, unsigned base, int alignment) {
+        AppendNumber(text, 255, prefix, {6, base, -1, alignment, U'.', true});
+    };
+    append(u"", 16, 1);
+    append(u"", 16, 0);
+    append(u"", 8, -1);
+    append(u"#", 36, 1);
+    EXPECT_EQ(text.view(), u"..0xff0x..ff0377.....#73");
+}
+
 TEST_F(ErrorHandlingTest, ARecordStartsWith512BytesAndIsEnlargedOnceOrLosesItsText) {
     const struct {
         std::size_t size;
-        bool refusesEnlargement;
+        bool FakeTracer::*refusal;
         const char* requests;
         std::size_t written;
-    } cases[] = {{512, false, "300:512 ", 512},
-                 {513, false, "300:512 1000:1024 ", 513},
-                 {1025, false, "300:512 1000:1025 ", 1025},
-                 {513, true, "300:512 1000:1024 ", 0}};
+    } cases[] = {{512, nullptr, "300:512 ", 512},
+                 {513, nullptr, "300:512 1000:1024 ", 513},
+                 {1025, nullptr, "300:512 1000:1025 ", 1025},
+                 {513, &FakeTracer::refusesEnlargement, "300:512 1000:1024 ", 0},
+                 {1, &FakeTracer::refuses, "300:512 ", kNoRecord},
+                 {1, &FakeTracer::givesNull, "300:512 ", kNoRecord}};
     for (const auto& expected : cases) {
-        tracer_->refusesEnlargement = expected.refusesEnlargement;
+        if (expected.refusal != nullptr) {
+            tracer_.get()->*expected.refusal = true;
+        }
         Trace(tracer_.get(), trace_level::Error, std::string(expected.size, 'x'));
-        EXPECT_EQ(tracer_->TakeRecords(), "300 " + std::string(expected.written, 'x') + '\n');
         EXPECT_EQ(std::exchange(tracer_->requests, ""), expected.requests);
+        EXPECT_EQ(tracer_->TakeRecords(), expected.written == kNoRecord
+                                              ? ""
+                                              : "300 " + std::string(expected.written, 'x') + '\n');
     }
-}
-
-TEST_F(ErrorHandlingTest, WithoutAGrantedRecordNothingIsWritten) {
-    tracer_->answer = rcFalse;
-    Trace(tracer_.get(), trace_level::Error, "x");
-    tracer_->answer = rcOk;
-    tracer_->givesNull = true;
-    Trace(tracer_.get(), trace_level::Error, "x");
-    tracer_->throws = true;
-    TraceNoThrow(tracer_.get(), trace_level::Error, "x");
-    EXPECT_EQ(tracer_->TakeRecords(), "");
 }
 
 }  // namespace

@@ -9,7 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "Utf8.h"
+#include "FromUtf8.h"
+#include "MessageUtf8.h"
 #include "localization_manager/host/text.h"
 
 namespace lm_test {

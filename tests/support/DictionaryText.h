@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "LocFileParser.h"
-#include "Operand.h"
 #include "ResourceDictionary.h"
 #include "localization_manager/host/text.h"
 

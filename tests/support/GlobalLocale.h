@@ -10,13 +10,21 @@ namespace lm_test {
 class GlobalLocale {
 public:
     /// @throws std::runtime_error when the machine does not have the locale.
-    explicit GlobalLocale(const char* name) : before_(std::locale::global(std::locale(name))) {}
+    explicit GlobalLocale(const char* name) : GlobalLocale(std::locale(name)) {}
+    explicit GlobalLocale(const std::locale& locale) : before_(std::locale::global(locale)) {}
     GlobalLocale(const GlobalLocale&) = delete;
     GlobalLocale& operator=(const GlobalLocale&) = delete;
     ~GlobalLocale() { std::locale::global(before_); }
 
 private:
     const std::locale before_;
+};
+
+/// Maps one ASCII letter unusually.
+struct TurkishLetters : std::ctype<wchar_t> {
+    wchar_t do_tolower(wchar_t letter) const override {
+        return letter == L'I' ? L'\u0131' : std::ctype<wchar_t>::do_tolower(letter);
+    }
 };
 
 }  // namespace lm_test

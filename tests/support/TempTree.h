@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -15,19 +15,21 @@ namespace lm_test {
 class TempTree {
 public:
     TempTree() {
-        std::string name = std::filesystem::temp_directory_path() / "lm_test_XXXXXX";
-        EXPECT_NE(::mkdtemp(name.data()), nullptr);
-        root_ = name;
+        std::random_device random;
+        do {
+            root_ =
+                std::filesystem::temp_directory_path() / ("lm_test_" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(root_));
     }
     TempTree(const TempTree&) = delete;
     TempTree& operator=(const TempTree&) = delete;
     ~TempTree() { std::filesystem::remove_all(root_); }
 
     /// Writes a file, and the directories above it.
-    /// @param name  path below the root.
+    /// @param name  path below the root, in UTF-8.
     /// @return the file's full path.
     std::filesystem::path Write(const std::string& name, std::string_view bytes) const {
-        std::filesystem::path path = root_ / name;
+        std::filesystem::path path = root_ / std::filesystem::u8path(name);
         std::filesystem::create_directories(path.parent_path());
         EXPECT_TRUE((std::ofstream(path, std::ios::binary) << bytes).flush()) << path;
         return path;
@@ -38,7 +40,8 @@ public:
     /// The full path of something below the root, as the engine takes it; of the root itself
     /// without a name.
     std::u16string Path(const std::string& name = "") const {
-        return (name.empty() ? root_ : root_ / name).u16string();
+        std::filesystem::path path = name.empty() ? root_ : root_ / std::filesystem::u8path(name);
+        return path.make_preferred().u16string();
     }
 
 private:

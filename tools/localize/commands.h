@@ -1,13 +1,37 @@
-// What the tool can do with a localizer.
+// All commands of the tool. Each stands in a file of its own.
 #pragma once
 
-#include "Options.h"
-#include "localization_manager/ILocalizer.h"
+#include "Command.h"
 
 namespace localize {
 
-/// Answers on standard output, and tells on standard error what could not be answered.
-/// @return whether all was answered, and with yes where the question was whether.
-bool Run(const Options& options, localization_manager::ILocalizer& localizer);
+void AddGetCommand(CLI::App& app, Task& chosen);
+void AddHasCommand(CLI::App& app, Task& chosen);
+void AddPathCommand(CLI::App& app, Task& chosen);
+void AddCatCommand(CLI::App& app, Task& chosen);
+void AddListCommand(CLI::App& app, Task& chosen);
+void AddFormatCommand(CLI::App& app, Task& chosen);
+void AddAddMissingCommand(CLI::App& app, Task& chosen);
+void AddRenameCommand(CLI::App& app, Task& chosen);
+void AddPseudoCommand(CLI::App& app, Task& chosen);
+void AddRulesCommand(CLI::App& app, Task& chosen);
+void AddReportCommand(CLI::App& app, Task& chosen);
+void AddCheckCommands(CLI::App& app, Task& chosen);  // `check` and `accept`
+
+/// In the order in which --help names them.
+inline void AddAllCommands(CLI::App& app, Task& chosen) {
+    AddGetCommand(app, chosen);
+    AddHasCommand(app, chosen);
+    AddPathCommand(app, chosen);
+    AddCatCommand(app, chosen);
+    AddListCommand(app, chosen);
+    AddCheckCommands(app, chosen);
+    AddFormatCommand(app, chosen);
+    AddAddMissingCommand(app, chosen);
+    AddRenameCommand(app, chosen);
+    AddPseudoCommand(app, chosen);
+    AddRulesCommand(app, chosen);
+    AddReportCommand(app, chosen);
+}
 
 }  // namespace localize

@@ -1,10 +1,14 @@
 #include "create_localizer.h"
 
-#include <iostream>
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
 
+#include "ReportedError.h"
 #include "UsageError.h"
 #include "localization_manager/host/host.h"
 #include "read_text.h"
+#include "tree/path_text.h"
 
 namespace localize {
 
@@ -23,12 +27,24 @@ lm::Culture CultureOf(const host::Module& module, qor::IServiceLocator& services
     return culture;
 }
 
-qor::objptr_t<host::ParamMap> ParamsOf(const Options& options) {
+qor::objptr_t<host::ParamMap> ParamsOf(const RequestSettings& settings) {
     auto params = host::Make<host::ParamMap>();
-    for (const auto& [name, text] : options.params) {
+    for (const auto& [name, text] : settings.params) {
         params->Set(name, text);
     }
     return params;
+}
+
+/// The module would report a broken contract.
+void RequireDirectory(const std::string& directory) {
+    std::error_code error;
+    const auto status = std::filesystem::status(lm_tree::PathOf(directory), error);
+    if (!error && !std::filesystem::is_directory(status)) {
+        error = std::make_error_code(std::errc::not_a_directory);
+    }
+    if (error) {
+        throw std::runtime_error("cannot read directory '" + directory + "': " + error.message());
+    }
 }
 
 qor::string16_t TextOf(const std::string& file) {
@@ -37,25 +53,37 @@ qor::string16_t TextOf(const std::string& file) {
 
 }  // namespace
 
-qor::objptr_t<lm::ILocalizer> CreateLocalizer(const host::Module& module, const Options& options) {
-    const host::Report report = host::LinesTo(std::cerr);
+qor::objptr_t<lm::ILocalizer> CreateLocalizer(const host::Module& module,
+                                              const RequestSettings& settings,
+                                              ModuleReports& reports) try {
+    RequireDirectory(settings.root);
+    if (!settings.alternative.empty()) {
+        RequireDirectory(settings.alternative);
+    }
+    const host::Report report = reports.Callback();
     const auto services = host::Make<host::ServiceLocator>(report);
-    const lm::Culture culture = CultureOf(module, *services, options.culture);
-    const auto manager = module.CreateManager(*services);
+    const lm::Culture culture = CultureOf(module, *services, settings.culture);
+    const auto manager = module.CreateManager(
+        *services, settings.anyNames ? host::Names::Any : host::Names::InsideTheTree);
     host::Check(
-        manager->InitEx(host::ToString16(options.root), host::ToString16(options.alternative),
+        manager->InitEx(host::ToString16(settings.root), host::ToString16(settings.alternative),
                         host::Make<host::ErrorListener>(report)),
         "cannot use the localisation tree");
-    const auto params = ParamsOf(options);
+    const auto params = ParamsOf(settings);
     qor::objptr_t<lm::ILocalizer> localizer;
-    host::Check(options.buffer.empty()
-                    ? manager->CreateLocalizer(host::ToString16(options.scope), culture,
+    host::Check(settings.buffer.empty()
+                    ? manager->CreateLocalizer(host::ToString16(settings.scope), culture,
                                                params.get(), localizer.Ref())
                     : manager->CreateBufferLocalizer(
-                          host::ToString16(options.scope), TextOf(options.buffer),
-                          TextOf(options.commonBuffer), culture, params.get(), localizer.Ref()),
+                          host::ToString16(settings.scope), TextOf(settings.buffer),
+                          TextOf(settings.commonBuffer), culture, params.get(), localizer.Ref()),
                 "cannot create a localizer");
     return localizer;
+} catch (const host::ResultError& error) {
+    if (reports.Count() != 0) {
+        throw ReportedError(error.what());
+    }
+    throw;
 }
 
 }  // namespace localize

@@ -1,50 +1,52 @@
-// localize: a host on the command line.
-#include <csignal>
+// localize: prints, checks and edits the texts of a localisation tree.
 #include <exception>
 #include <iostream>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
+#include "ExitStatus.h"
+#include "Platform.h"
+#include "ReportedError.h"
 #include "UsageError.h"
-#include "commands.h"
-#include "create_localizer.h"
-#include "localization_manager/host/Module.h"
-#include "parse_options.h"
+#include "command_line.h"
 
 namespace {
 
-namespace host = localization_manager::host;
+using localize::ExitStatus;
 
-enum ExitStatus { kAnswered = 0, kUnanswered = 1, kWrongUsage = 2 };
-
-int Run(int argc, const char* const* argv) {
-    const auto options = localize::ParseOptions(argc, argv);
-    bool answered = true;
-    if (options) {
-        const auto module =
-            options->module.empty() ? host::Module() : host::Module(options->module);
-        const auto localizer = localize::CreateLocalizer(module, *options);
-        answered = localize::Run(*options, *localizer);
+ExitStatus Run(const std::vector<std::string>& commandLine) {
+    std::vector<const char*> words;
+    words.reserve(commandLine.size());
+    for (const std::string& word : commandLine) {
+        words.push_back(word.c_str());
     }
+    const localize::Task task =
+        localize::ParseCommandLine(static_cast<int>(words.size()), words.data());
+    const bool succeeded = !task || task();
     if (!std::cout.flush()) {
         throw std::runtime_error("cannot write to standard output");
     }
-    return answered ? kAnswered : kUnanswered;
+    return succeeded ? ExitStatus::Done : ExitStatus::Failed;
+}
+
+ExitStatus RunAndReport(int argc, const char* const* argv) {
+    try {
+        return Run(Platform::CommandLine(argc, argv));
+    } catch (const localize::UsageError& error) {
+        std::cerr << "localize: " << error.what() << "\nRun with --help for more information.\n";
+        return ExitStatus::WrongUsage;
+    } catch (const localize::ReportedError&) {
+        return ExitStatus::Failed;
+    } catch (const std::exception& error) {
+        std::cerr << "localize: " << error.what() << '\n';
+        return ExitStatus::Failed;
+    }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-#ifdef SIGPIPE
-    // A reader that goes early is a failed write, and not the end of the process.
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
-    try {
-        return Run(argc, argv);
-    } catch (const localize::UsageError& error) {
-        std::cerr << "localize: " << error.what() << "\nRun with --help for more information.\n";
-        return kWrongUsage;
-    } catch (const std::exception& error) {
-        std::cerr << "localize: " << error.what() << '\n';
-        return kUnanswered;
-    }
+    Platform::PrepareStandardStreams();
+    return static_cast<int>(RunAndReport(argc, argv));
 }

@@ -1,36 +1,58 @@
 #include "read_text.h"
 
-#include <fstream>
-#include <iostream>
-#include <sstream>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
 #include <stdexcept>
+#include <string_view>
+#include <system_error>
+
+#include "Platform.h"
+#include "tree/path_text.h"
 
 namespace localize {
 
 namespace {
 
-std::string ReadAll(std::istream& stream, const std::string& file) {
-    std::ostringstream text;
-    // Inserting an empty stream's buffer sets a failure bit, so the input is asked instead.
-    if (stream && stream.peek() != std::istream::traits_type::eof()) {
-        text << stream.rdbuf();
+[[noreturn]] void ThrowCannotRead(const std::string& file) {
+    throw std::runtime_error("cannot read '" + file +
+                             "': " + std::generic_category().message(errno));
+}
+
+/// C streams, because they say why: a directory opens as well as a file, and a standard input that
+/// is closed looks like an empty one to the others.
+std::string ReadAll(std::FILE* stream, const std::string& file) {
+    std::string text;
+    std::array<char, 65536> buffer;
+    std::size_t read = 0;
+    while ((read = std::fread(buffer.data(), 1, buffer.size(), stream)) != 0) {
+        text.append(buffer.data(), read);
     }
-    if (stream.bad() || (stream.fail() && !stream.eof())) {
-        throw std::runtime_error("cannot read '" + file + "'");
+    if (std::ferror(stream) != 0) {
+        ThrowCannotRead(file);
     }
-    return text.str();
+    return text;
+}
+
+std::string ReadFile(const std::string& file) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(
+        Platform::OpenForReading(lm_tree::PathOf(file)), &std::fclose);
+    if (!stream) {
+        ThrowCannotRead(file);
+    }
+    return ReadAll(stream.get(), file);
 }
 
 }  // namespace
 
+std::string ReadBytes(const std::string& file) {
+    std::string text = file == kStandardInput ? ReadAll(stdin, file) : ReadFile(file);
+    return text;
+}
+
 std::string ReadText(const std::string& file) {
-    std::string text;
-    if (file == kStandardInput) {
-        text = ReadAll(std::cin, file);
-    } else {
-        std::ifstream stream(file, std::ios::binary);
-        text = ReadAll(stream, file);
-    }
+    std::string text = ReadBytes(file);
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (text.compare(0, kByteOrderMark.size(), kByteOrderMark) == 0) {
         text.erase(0, kByteOrderMark.size());

@@ -9,8 +9,12 @@ namespace localize {
 inline constexpr const char* kStandardInput = "-";
 
 /// @param file  "-" for standard input.
+/// @throws std::runtime_error, with the system's reason, when it cannot be read.
+std::string ReadBytes(const std::string& file);
+
+/// @param file  "-" for standard input.
 /// @return the text in UTF-8, without a byte-order mark.
-/// @throws std::runtime_error when it cannot be read.
+/// @throws std::runtime_error, with the system's reason, when it cannot be read.
 std::string ReadText(const std::string& file);
 
 }  // namespace localize

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "localization_manager/IErrorListener.h"
+#include "localization_manager/host/AtCallback.h"
 #include "localization_manager/host/HostObject.h"
 #include "localization_manager/host/Report.h"
 #include "qor/ITracer.h"
@@ -27,8 +28,10 @@ public:
 
 private:
     qor::result_t Forward(std::uint32_t level, const qor::string8_t& text) const {
-        report_(level, text.view());
-        return qor::rcOk;
+        return AtCallback([&] {
+            report_(level, text.view());
+            return qor::rcOk;
+        });
     }
 
     const Report report_;

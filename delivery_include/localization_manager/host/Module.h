@@ -4,13 +4,18 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "localization_manager/ICultureConverter.h"
 #include "localization_manager/ILocalizationManager.h"
+#include "localization_manager/host/GuardedManager.h"
 #include "localization_manager/host/ResultError.h"
+#include "localization_manager/host/default_module_path.h"
+#include "localization_manager/host/names.h"
 #include "localization_manager/module.h"
 #include "qor/IObjectFactory.h"
 #include "qor/IServiceLocator.h"
+#include "qor/ITracer.h"
 #include "qor/objptr_t.h"
 #include "qor/platform/shared_library.h"
 
@@ -22,10 +27,9 @@ namespace localization_manager::host {
 /// the module at that moment. The operations may be called from several threads at once.
 class Module {
 public:
-    /// @param path  UTF-8; the bare file name, which is the default, is looked for where the
-    ///              program's run path points.
+    /// @param path  UTF-8.
     /// @throws std::runtime_error when it cannot be loaded or is something else.
-    explicit Module(const std::string& path = FileName())
+    explicit Module(const std::string& path = DefaultModulePath())
         : library_(qor::platform::OpenSharedLibrary(path)),
           getObjectFactory_(Find<GetObjectFactoryFunction>(kGetObjectFactoryName)),
           canUnloadModule_(Find<CanUnloadModuleFunction>(kCanUnloadModuleName)) {}
@@ -39,27 +43,33 @@ public:
         }
     }
 
-    /// The module's file name on this platform.
-    static std::string FileName() {
-        return std::string(qor::platform::kSharedLibraryPrefix) + "localization_manager" +
-               qor::platform::kSharedLibrarySuffix;
-    }
-
     /// Whether no object of the module is alive.
     bool CanUnload() const { return canUnloadModule_() == qor::rcOk; }
 
     /// @param services  the new object, and whatever it makes in turn, keeps a reference.
+    /// @param names     whether scopes, cultures and keys of files that lead out of the tree are
+    ///                  refused: with `rcProhibited`, and a record for the tracer of `services`.
     /// @throws ResultError with the code of the module or of `services`.
-    qor::objptr_t<ILocalizationManager> CreateManager(qor::IServiceLocator& services) const {
-        return Create<ILocalizationManager>(class_id::LocalizationManager, services);
+    qor::objptr_t<ILocalizationManager> CreateManager(qor::IServiceLocator& services,
+                                                      Names names = Names::InsideTheTree) const {
+        auto manager = Create<ILocalizationManager>(class_id::LocalizationManager, services);
+        if (names == Names::Any) {
+            return manager;
+        }
+        void* tracer = nullptr;
+        Check(services.GetService(qor::ITracer::InterfaceId, 0, &tracer), "cannot get the tracer");
+        return Make<GuardedManager>(
+            std::move(manager),
+            Refusal(qor::objptr_t<qor::ITracer>::Adopt(static_cast<qor::ITracer*>(tracer))));
     }
 
-    /// As `CreateManager`.
+    /// As `CreateManager`; names of cultures are not examined.
     qor::objptr_t<ICultureConverter> CreateCultureConverter(qor::IServiceLocator& services) const {
         return Create<ICultureConverter>(class_id::CultureConverter, services);
     }
 
-    /// An object of any exported class, by any of its interfaces; else as `CreateManager`.
+    /// An object of any exported class, by any of its interfaces, as the module makes it: a manager
+    /// made here refuses no names. Else as `CreateManager`.
     template <class Interface>
     qor::objptr_t<Interface> Create(std::uint32_t classId, qor::IServiceLocator& services) const {
         void* out = nullptr;

@@ -9,13 +9,15 @@
 #include <string_view>
 
 #include "localization_manager/IParamResolver.h"
+#include "localization_manager/host/AtCallback.h"
 #include "localization_manager/host/HostObject.h"
 #include "localization_manager/host/text.h"
 
 namespace localization_manager::host {
 
-/// Answers the request for any other parameter with `rcNotFound`. Threads may set and
-/// resolve at once.
+/// Answers the request for any other parameter with `rcNotFound`. Threads may set and resolve at once, but
+/// the values are one set for all of them: a text may be given what another thread has set since. `Texts`
+/// take values that belong to one call.
 class ParamMap : public HostObject<IParamResolver> {
 public:
     /// Sets or replaces a parameter; name and text are UTF-8.
@@ -28,13 +30,15 @@ public:
     void Set(std::string_view name, std::int64_t number) { Set(name, std::to_string(number)); }
 
     qor::result_t Resolve(const qor::string16_t& name, qor::string16_t& result) override {
-        const std::lock_guard<std::mutex> lock(mutex_);
-        const auto found = texts_.find(name.view());
-        if (found == texts_.end()) {
-            return qor::rcNotFound;
-        }
-        result = std::u16string_view(found->second);
-        return qor::rcOk;
+        return AtCallback([&] {
+            const std::lock_guard<std::mutex> lock(mutex_);
+            const auto found = texts_.find(name.view());
+            if (found == texts_.end()) {
+                return qor::rcNotFound;
+            }
+            result = std::u16string_view(found->second);
+            return qor::rcOk;
+        });
     }
 
 private:

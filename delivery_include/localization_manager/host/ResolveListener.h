@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "localization_manager/IResolveListener.h"
+#include "localization_manager/host/AtCallback.h"
 #include "localization_manager/host/HostObject.h"
 #include "localization_manager/host/text.h"
 
@@ -21,8 +22,10 @@ public:
 
     qor::result_t OnResolved(ResolveKind kind, const qor::string16_t& source,
                              const qor::string16_t& name, const qor::string16_t& value) override {
-        callback_(kind, ToUtf8(source), ToUtf8(name), ToUtf8(value));
-        return qor::rcOk;
+        return AtCallback([&] {
+            callback_(kind, ToUtf8(source), ToUtf8(name), ToUtf8(value));
+            return qor::rcOk;
+        });
     }
 
 private:

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "qor/result_codes.h"
+#include "qor/result_messages.h"
 
 namespace localization_manager::host {
 

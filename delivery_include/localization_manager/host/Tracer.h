@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "localization_manager/host/AtCallback.h"
 #include "localization_manager/host/HostObject.h"
 #include "localization_manager/host/Report.h"
 #include "qor/ITracer.h"
@@ -42,8 +43,10 @@ public:
 
     qor::result_t WriteRecord(char* buffer, std::uint32_t length) override {
         const std::unique_ptr<Header, decltype(&std::free)> header(HeaderOf(buffer), &std::free);
-        report_(header->level, std::string_view(buffer, length));
-        return qor::rcOk;
+        return AtCallback([&] {
+            report_(header->level, std::string_view(buffer, length));
+            return qor::rcOk;
+        });
     }
 
 private:

@@ -1,8 +1,12 @@
-// Everything that a small host needs: load the module, give it services, read its texts. Needs the
-// standard library and the interface headers, nothing else.
+// All of the kit: `Tree` and `Texts` for a program's texts; and below them, to load the module, give it
+// services and call its interfaces. Needs the standard library and the interface headers, nothing else.
 #pragma once
 
+#include "localization_manager/host/AtCallback.h"
+#include "localization_manager/host/CultureChoice.h"
 #include "localization_manager/host/ErrorListener.h"
+#include "localization_manager/host/GuardedLocalizer.h"
+#include "localization_manager/host/GuardedManager.h"
 #include "localization_manager/host/HeapAllocator.h"
 #include "localization_manager/host/HostObject.h"
 #include "localization_manager/host/Module.h"
@@ -12,5 +16,10 @@
 #include "localization_manager/host/ResolveListener.h"
 #include "localization_manager/host/ResultError.h"
 #include "localization_manager/host/ServiceLocator.h"
+#include "localization_manager/host/Texts.h"
 #include "localization_manager/host/Tracer.h"
+#include "localization_manager/host/Tree.h"
+#include "localization_manager/host/default_module_path.h"
+#include "localization_manager/host/names.h"
+#include "localization_manager/host/shortened.h"
 #include "localization_manager/host/text.h"

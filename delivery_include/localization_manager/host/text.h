@@ -1,13 +1,15 @@
 // Texts between UTF-8, in which most hosts think, and the UTF-16 of the interfaces.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <iterator>
 #include <string>
 #include <string_view>
 
 #include "qor/basic_string_t.h"
+#include "qor/decode_utf8.h"
 #include "qor/utf16.h"
-#include "qor/utf8.h"
 
 namespace localization_manager::host {
 
@@ -27,6 +29,40 @@ inline char32_t TakeUtf16(std::u16string_view& units) {
                                                                      : first;
 }
 
+/// So many bytes are enough for each unit.
+inline constexpr std::size_t kMostUtf8PerUnit = 3;
+
+/// @param output  room for what the units can become. Returned moved on.
+inline char* EncodeUtf8(std::u16string_view units, char* output) {
+    const char16_t* next = units.data();
+    const char16_t* const end = next + units.size();
+    while (next != end) {
+        const char16_t unit = *next;
+        if (unit < 0x80) {
+            *output++ = static_cast<char>(unit);
+            ++next;
+            continue;
+        }
+        // Two bytes: Latin, Greek, Cyrillic, Hebrew, Arabic. The general case is slower.
+        if (unit < 0x800) {
+            *output++ = static_cast<char>(0xC0U | unit >> 6U);
+            *output++ = static_cast<char>(0x80U | (unit & 0x3FU));
+            ++next;
+            continue;
+        }
+        std::u16string_view rest(next, static_cast<std::size_t>(end - next));
+        const char32_t codePoint = TakeUtf16(rest);
+        next = rest.data();
+        const unsigned trailing = codePoint < 0x10000 ? 2 : 3;
+        *output++ =
+            static_cast<char>((trailing == 2 ? 0xE0U : 0xF0U) | codePoint >> (6 * trailing));
+        for (unsigned left = trailing; left-- != 0;) {
+            *output++ = static_cast<char>(0x80U | ((codePoint >> (6 * left)) & 0x3FU));
+        }
+    }
+    return output;
+}
+
 }  // namespace detail
 
 /// Malformed parts become U+FFFD.
@@ -44,20 +80,13 @@ inline qor::string16_t ToString16(std::string_view utf8) {
 
 /// Malformed parts become U+FFFD.
 inline std::string ToUtf8(std::u16string_view utf16) {
-    std::string bytes;
-    bytes.reserve(utf16.size());
-    while (!utf16.empty()) {
-        const char32_t codePoint = detail::TakeUtf16(utf16);
-        const unsigned trailing = codePoint < 0x80      ? 0
-                                  : codePoint < 0x800   ? 1
-                                  : codePoint < 0x10000 ? 2
-                                                        : 3;
-        constexpr unsigned char kLeads[] = {0x00, 0xC0, 0xE0, 0xF0};
-        bytes.push_back(static_cast<char>(kLeads[trailing] | codePoint >> (6 * trailing)));
-        for (unsigned left = trailing; left-- != 0;) {
-            bytes.push_back(static_cast<char>(0x80U | ((codePoint >> (6 * left)) & 0x3FU)));
-        }
+    std::array<char, detail::kMostUtf8PerUnit * 256> brief;  // NOLINT(*-member-init): written first
+    if (utf16.size() * detail::kMostUtf8PerUnit <= brief.size()) {
+        return {brief.data(),
+                static_cast<std::size_t>(detail::EncodeUtf8(utf16, brief.data()) - brief.data())};
     }
+    std::string bytes(utf16.size() * detail::kMostUtf8PerUnit, '\0');
+    bytes.resize(static_cast<std::size_t>(detail::EncodeUtf8(utf16, bytes.data()) - bytes.data()));
     return bytes;
 }
 

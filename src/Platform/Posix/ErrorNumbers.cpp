@@ -4,8 +4,8 @@
 
 namespace Platform::Posix {
 
-ErrorNumber FromErrno(int error) noexcept {
-    switch (error) {
+ErrorNumber LastError() noexcept {
+    switch (errno) {
         case ENOENT:
             return 2;
         case ENOTDIR:
@@ -15,7 +15,7 @@ ErrorNumber FromErrno(int error) noexcept {
         case EISDIR:
             return kAccessDenied;
         case EBADF:
-            return kInvalidHandleError;
+            return kInvalidHandle;
         case ENOMEM:
             return 8;
         case EWOULDBLOCK:

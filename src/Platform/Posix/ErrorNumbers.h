@@ -6,12 +6,13 @@
 namespace Platform::Posix {
 
 inline constexpr ErrorNumber kAccessDenied = 5;
+inline constexpr ErrorNumber kInvalidHandle = 6;
 inline constexpr ErrorNumber kGeneralFailure = 31;
 inline constexpr ErrorNumber kSharingViolation = 32;
 inline constexpr ErrorNumber kInvalidName = 123;
 inline constexpr ErrorNumber kNegativeSeek = 131;
 
-/// @param error  a value of `errno`, not 0.
-ErrorNumber FromErrno(int error) noexcept;
+/// Of the call that failed last, from `errno`.
+ErrorNumber LastError() noexcept;
 
 }  // namespace Platform::Posix

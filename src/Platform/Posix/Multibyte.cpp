@@ -11,18 +11,22 @@ namespace Platform {
 std::optional<std::u16string> WidenMultibyte(std::string_view text) {
     std::u16string wide;
     wide.reserve(text.size());
+    const auto append = [&wide](wchar_t character) {
+        qor::EncodeUtf16(static_cast<char32_t>(character), std::back_inserter(wide));
+    };
     std::mbstate_t state = {};
     while (!text.empty()) {
         wchar_t character = 0;
-        std::size_t length = std::mbrtowc(&character, text.data(), text.size(), &state);
+        const std::size_t length = std::mbrtowc(&character, text.data(), text.size(), &state);
         if (length == static_cast<std::size_t>(-1) || length == static_cast<std::size_t>(-2)) {
             return std::nullopt;
         }
-        if (length == 0) {  // a zero character
-            length = 1;
-        }
-        qor::EncodeUtf16(static_cast<char32_t>(character), std::back_inserter(wide));
-        text.remove_prefix(length);
+        append(character);
+        // No length tells of a zero, or of the second character that the last bytes stood for.
+        text.remove_prefix(character == 0 ? 1 : length);
+    }
+    for (wchar_t second = 0; std::mbrtowc(&second, "", 1, &state) == 0 && second != 0;) {
+        append(second);
     }
     return wide;
 }
@@ -44,6 +48,10 @@ std::optional<std::string> NarrowToMultibyte(std::u16string_view text) {
         }
         narrow.append(bytes, length);
     }
+    // The last character may be held back, as the next one might have joined it, until a zero ends
+    // the text.
+    char bytes[MB_LEN_MAX];
+    narrow.append(bytes, std::wcrtomb(bytes, L'\0', &state) - 1);
     return narrow;
 }
 

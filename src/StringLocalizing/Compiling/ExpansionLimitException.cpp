@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "Utf8.h"
+#include "MessageUtf8.h"
+#include "expansion_limits.h"
 
 namespace LocalizationManager::StringLocalizing::Compiling {
 

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <boost/current_function.hpp>
-#include <set>
-#include <string>
 #include <utility>
 
 #include "CyclicReferenceException.h"
 #include "ExpansionLimitException.h"
+#include "expansion_limits.h"
 #include "qor/rtl/contracts/checks.h"
 
 namespace LocalizationManager::StringLocalizing::Compiling {
@@ -17,6 +16,12 @@ using Model::OperandView;
 using Model::ValueView;
 
 namespace {
+
+bool HasReference(ValueView value) {
+    return std::any_of(value.begin(), value.end(), [](const OperandView& operand) {
+        return operand.kind == OperandKind::KeyRef;
+    });
+}
 
 /// Whether compiling would change the value: a reference to inline, or texts to merge. It tells
 /// compiled values from others, so that no record of them is kept.
@@ -28,17 +33,6 @@ bool NeedsCompiling(ValueView value) {
         followsText = isText;
         return operand.kind == OperandKind::KeyRef || joinsText;
     });
-}
-
-/// What an operand counts towards the limits of expansion: its units, and one for itself.
-std::size_t ExpandedSize(const OperandView& operand) {
-    std::size_t size = 1 + operand.text.size();
-    ForEachForm(operand, [&size](ValueView form) {
-        for (const OperandView& inner : form) {
-            size += ExpandedSize(inner);
-        }
-    });
-    return size;
 }
 
 }  // namespace
@@ -57,16 +51,18 @@ void ResourceCompiler::Compile(boost::shared_ptr<Model::ResourceDictionary> reso
         return;
     }
     expandedSize_ = dictionary_->ExpandedSize();  // of an attempt before, too
-    // The order decides which fault of several is found, and what counts towards a limit first.
-    std::set<std::u16string> keys;
+    std::vector<Position> entries;
     dictionary_->ForEach([&](Position entry) {
-        const auto [key, value] = dictionary_->At(entry);
-        if (NeedsCompiling(value)) {
-            keys.emplace(key);
+        if (NeedsCompiling(dictionary_->At(entry).value)) {
+            entries.push_back(entry);
         }
     });
-    for (const std::u16string& key : keys) {
-        CompileKey(key);
+    // The order decides which fault of several is found, and what counts towards a limit first.
+    std::sort(entries.begin(), entries.end(), [this](Position left, Position right) {
+        return dictionary_->At(left).key < dictionary_->At(right).key;
+    });
+    for (const Position entry : entries) {  // of those that were replaced, too, the key is there
+        CompileKey(dictionary_->At(entry).key);
     }
     dictionary_->SetCompiled();
 }
@@ -95,7 +91,7 @@ void ResourceCompiler::CompileKey(std::u16string_view key) {
 
 void ResourceCompiler::Begin(Position entry) {
     visiting_.insert(entry);
-    visits_.push_back({entry});
+    visits_.push_back({entry, HasReference(dictionary_->At(entry).value)});
 }
 
 /// Handles the next operand of the innermost entry.
@@ -108,7 +104,7 @@ void ResourceCompiler::Step() {
     }
     const OperandView operand = *ValueView(code.substr(visit.done)).begin();
     if (operand.kind != OperandKind::KeyRef) {
-        Append(operand);
+        Append(ValueView(operand.code));
     } else if (!AppendReferenced(operand.text)) {
         return;
     }
@@ -117,7 +113,7 @@ void ResourceCompiler::Step() {
 
 void ResourceCompiler::Finish() {
     const Visit& visit = visits_.back();
-    dictionary_->Replace(visit.entry, visit.output, visit.outputSize);
+    dictionary_->Replace(visit.entry, visit.output, visit.expands ? visit.output.size() : 0);
     visiting_.erase(visit.entry);
     visits_.pop_back();
 }
@@ -128,7 +124,7 @@ void ResourceCompiler::Finish() {
 bool ResourceCompiler::AppendReferenced(std::u16string_view key) {
     const auto found = dictionary_->Find(key);
     if (!found) {
-        AppendAll(parent_->GetExpression(key));
+        Append(parent_->GetExpression(key));
         return true;
     }
     if (visiting_.count(*found) != 0) {
@@ -139,29 +135,24 @@ bool ResourceCompiler::AppendReferenced(std::u16string_view key) {
         Begin(*found);
         return false;
     }
-    AppendAll(value);
+    Append(value);
     return true;
 }
 
-/// Appends an operand that is no reference to the innermost entry; a text joins a text before it.
-void ResourceCompiler::Append(const OperandView& operand) {
+/// Appends operands that are no references to the innermost entry.
+void ResourceCompiler::Append(ValueView compiled) {
     Visit& visit = visits_.back();
-    const std::size_t size = ExpandedSize(operand);
-    visit.outputSize += size;
-    expandedSize_ += size;
-    const std::u16string_view key = dictionary_->At(visit.entry).key;
-    if (visit.outputSize > kMaxExpandedValue) {
-        throw ExpansionLimitException(key, kMaxExpandedValue);
+    const std::size_t before = visit.output.size();
+    visit.output.Join(compiled);
+    if (!visit.expands) {
+        return;
+    }
+    expandedSize_ += visit.output.size() - before;
+    if (visit.output.size() > kMaxExpandedValue) {
+        throw ExpansionLimitException(dictionary_->At(visit.entry).key, kMaxExpandedValue);
     }
     if (expandedSize_ > kMaxExpandedDictionary) {
-        throw ExpansionLimitException(key, kMaxExpandedDictionary);
-    }
-    visit.output.Join(operand);
-}
-
-void ResourceCompiler::AppendAll(ValueView value) {
-    for (const OperandView& operand : value) {
-        Append(operand);
+        throw ExpansionLimitException(dictionary_->At(visit.entry).key, kMaxExpandedDictionary);
     }
 }
 

@@ -33,9 +33,9 @@ private:
     /// An entry whose compilation is in progress.
     struct Visit {
         Position entry;
+        bool expands;          // whether its value refers to others
         std::size_t done = 0;  // units of the value's code
         Model::Value output{};
-        std::size_t outputSize = 0;
     };
 
     void CompileKey(std::u16string_view key);
@@ -43,8 +43,7 @@ private:
     void Step();
     void Finish();
     bool AppendReferenced(std::u16string_view key);
-    void Append(const Model::OperandView& operand);
-    void AppendAll(Model::ValueView value);
+    void Append(Model::ValueView compiled);
     [[noreturn]] void ThrowCycle(std::u16string_view key) const;
 
     boost::shared_ptr<IExpressionProvider> parent_;
@@ -52,7 +51,7 @@ private:
     // A stack of its own, not the thread's: chains of references may be as long as the dictionary.
     std::vector<Visit> visits_;
     std::unordered_set<Position> visiting_;
-    std::size_t expandedSize_ = 0;  // of all values that were rewritten
+    std::size_t expandedSize_ = 0;  // of all values that referred to others
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Compiling

@@ -3,6 +3,8 @@
 #include <boost/lambda/lambda.hpp>
 #include <initializer_list>
 
+#include "Remainder.h"
+
 namespace LocalizationManager::StringLocalizing::Model {
 
 namespace {
@@ -20,6 +22,8 @@ void Add(PluralFormRules& rules, std::initializer_list<Language> languages,
 
 void AddBuiltInPluralFormRules(PluralFormRules& rules) {
     const auto& n = boost::lambda::_1;
+    const auto mod10 = Remainder(10);
+    const auto mod100 = Remainder(100);
 
     Add(rules,
         {Language::ChineseTraditional, Language::ChineseSimplified, Language::Persian,
@@ -35,24 +39,22 @@ void AddBuiltInPluralFormRules(PluralFormRules& rules) {
     Add(rules, {Language::French, Language::Turkish}, {n < 2});
     Add(rules, {Language::Portuguese}, {n < 2}, "br");
     Add(rules, {Language::Arabic},
-        {n == 0, n == 1, n == 2, n % 100 >= 3 && n % 100 <= 10, n % 100 >= 11 && n % 100 <= 99});
+        {n == 0, n == 1, n == 2, mod100 >= 3 && mod100 <= 10, mod100 >= 11 && mod100 <= 99});
     Add(rules, {Language::Czech}, {n == 1, n >= 2 && n <= 4});
     Add(rules, {Language::Irish},
-        {n == 1, n == 2, n % 10 >= 3 && n % 10 <= 6, n % 10 >= 7 && n % 10 <= 9});
+        {n == 1, n == 2, mod10 >= 3 && mod10 <= 6, mod10 >= 7 && mod10 <= 9});
     Add(rules, {Language::Lithuanian},
-        {n % 10 == 1 && n % 100 != 11, n % 10 >= 2 && (n % 100 < 10 || n % 100 >= 20)});
-    Add(rules, {Language::Latvian}, {n % 10 == 1 && n % 100 != 11, n == 0});
-    Add(rules, {Language::Macedonian}, {n % 10 == 1, n % 10 == 2});
+        {mod10 == 1 && mod100 != 11, mod10 >= 2 && (mod100 < 10 || mod100 >= 20)});
+    Add(rules, {Language::Latvian}, {mod10 == 1 && mod100 != 11, n == 0});
+    Add(rules, {Language::Macedonian}, {mod10 == 1, mod10 == 2});
     Add(rules, {Language::Polish},
-        {n == 1, n % 10 >= 2 && n % 10 <= 4 && (n % 100 < 10 || n % 100 > 20)});
+        {n == 1, mod10 >= 2 && mod10 <= 4 && (mod100 < 10 || mod100 > 20)});
     Add(rules, {Language::Russian, Language::Ukrainian},
-        {n % 10 == 1 && n % 100 != 11,
-         n % 10 >= 2 && n % 10 <= 4 && (n % 100 < 10 || n % 100 > 20)});
-    Add(rules, {Language::Romanian}, {n == 1, n == 0 || (n % 100 > 0 && n % 100 < 20)});
+        {mod10 == 1 && mod100 != 11, mod10 >= 2 && mod10 <= 4 && (mod100 < 10 || mod100 > 20)});
+    Add(rules, {Language::Romanian}, {n == 1, n == 0 || (mod100 > 0 && mod100 < 20)});
     Add(rules, {Language::SerbianCyrillic, Language::SerbianLatin},
-        {n % 10 == 1 && n % 100 != 11,
-         n % 10 >= 2 && n % 10 <= 4 && (n % 100 < 10 || n % 100 >= 20)});
-    Add(rules, {Language::Slovenian}, {n == 1, n % 100 == 2, n % 100 == 3 || n % 100 == 4});
+        {mod10 == 1 && mod100 != 11, mod10 >= 2 && mod10 <= 4 && (mod100 < 10 || mod100 >= 20)});
+    Add(rules, {Language::Slovenian}, {n == 1, mod100 == 2, mod100 == 3 || mod100 == 4});
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Model

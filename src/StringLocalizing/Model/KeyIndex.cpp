@@ -2,12 +2,12 @@
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-void KeyIndex::Insert(std::u16string_view key, Hash hash, Position position) {
+void KeyIndex::Insert(std::u16string_view key, Hash hash, Position position, Extent extent) {
     const std::size_t probes = Probes();
     for (std::size_t probe = 0; probe < probes; ++probe) {
         Slot& slot = slots_[Place(hash, probe)];
         if (slot.position == kFree) {
-            slot = {position, hash};
+            slot = {position, hash << kExtentBits | extent};
             ++count_;
             return;
         }
@@ -16,12 +16,13 @@ void KeyIndex::Insert(std::u16string_view key, Hash hash, Position position) {
     ++count_;
 }
 
-void KeyIndex::Move(std::u16string_view key, Hash hash, Position from, Position to) noexcept {
+void KeyIndex::Move(std::u16string_view key, Hash hash, Position from, Position to,
+                    Extent extent) noexcept {
     const std::size_t probes = Probes();
     for (std::size_t probe = 0; probe < probes; ++probe) {
         Slot& slot = slots_[Place(hash, probe)];
         if (slot.position == from) {
-            slot.position = to;
+            slot = {to, hash << kExtentBits | extent};
             return;
         }
     }

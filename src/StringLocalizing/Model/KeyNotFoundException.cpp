@@ -1,6 +1,6 @@
 #include "KeyNotFoundException.h"
 
-#include "Utf8.h"
+#include "MessageUtf8.h"
 
 namespace LocalizationManager::StringLocalizing::Model {
 

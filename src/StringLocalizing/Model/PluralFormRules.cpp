@@ -7,37 +7,43 @@
 #include <stdexcept>
 
 #include "BuiltInPluralFormRules.h"
+#include "max_forms.h"
 
 namespace LocalizationManager::StringLocalizing::Model {
 
 namespace {
 
-constexpr std::size_t kMaxEntryCount = 6;  // as many as a plural form can have forms
+constexpr std::size_t kMaxEntryCount = kMaxForms;
 
 bool Always(std::int64_t /*number*/) {
     return true;
 }
 
-boost::shared_ptr<PluralFormRules> CreateBuiltInRules() {
-    auto rules = boost::make_shared<PluralFormRules>();
+boost::shared_ptr<const PluralFormRules> MakeBuiltInRules() {
+    const auto rules = boost::make_shared<PluralFormRules>();
     AddBuiltInPluralFormRules(*rules);
     rules->Complete();
     return rules;
 }
 
+boost::shared_ptr<PluralFormRules> CreateOverBuiltInRules() {
+    static const boost::shared_ptr<const PluralFormRules> builtIn = MakeBuiltInRules();
+    return boost::make_shared<PluralFormRules>(builtIn);
+}
+
 }  // namespace
 
 PluralFormRule PluralFormRules::GetRule(const PluralFormRuleId& id) const {
-    auto found = rules_.find(id);
-    if (found == rules_.end()) {
+    const PluralFormRule* rule = Find(id);
+    if (rule == nullptr) {
         PluralFormRuleId languageId = id;
         languageId.region.clear();
-        found = rules_.find(languageId);
+        rule = Find(languageId);
     }
-    if (found == rules_.end()) {
+    if (rule == nullptr) {
         throw std::out_of_range("Rule with id '" + ToText(id) + "' not found");
     }
-    return found->second;
+    return *rule;
 }
 
 std::uint16_t PluralFormRules::GetEntryCount(const PluralFormRuleId& id) const {
@@ -70,13 +76,21 @@ void PluralFormRules::SetRule(const PluralFormRuleId& id, const PluralFormRule& 
     rules_[id] = rule;
 }
 
+const PluralFormRule* PluralFormRules::Find(const PluralFormRuleId& id) const {
+    const auto found = rules_.find(id);
+    if (found != rules_.end()) {
+        return &found->second;
+    }
+    return others_ ? others_->Find(id) : nullptr;
+}
+
 boost::shared_ptr<IPluralFormRules> CreatePluralFormRules() {
-    return CreateBuiltInRules();
+    return CreateOverBuiltInRules();
 }
 
 boost::shared_ptr<IPluralFormRules> CreatePluralFormRules(const PluralFormRuleId& id,
                                                           const PluralFormRule& rule) {
-    auto rules = CreateBuiltInRules();
+    const auto rules = CreateOverBuiltInRules();
     rules->SetRule(id, rule);
     return rules;
 }

@@ -31,20 +31,28 @@ public:
     ~ResourceDictionary() = default;
 
     /// Makes room for the entries of a source of so many units, which take about as many here.
-    void Reserve(std::size_t sourceSize) { entries_.reserve(entries_.size() + sourceSize); }
+    void Reserve(std::size_t sourceSize);
 
     /// Adds an entry, unless the key has one.
     /// @return whether it was added.
     bool Add(std::u16string_view key, const Value& value);
 
     /// Where the entry of a key stands; empty when there is none.
+    /// @param key  lower-cased.
     std::optional<Position> Find(std::u16string_view key) const;
 
+    /// A quick attempt to find the value of a key in any letter case of ASCII. It may miss a key.
+    std::optional<ValueView> FindInAnyCase(std::u16string_view key) const;
+
     /// The entry that was found.
-    Entry At(Position position) const noexcept;
+    Entry At(Position position) const noexcept {
+        std::u16string_view rest(entries_.data() + position, entries_.size() - position);
+        const std::u16string_view key = TakeText(rest);
+        return {key, ValueView(TakeText(rest))};
+    }
 
     /// Replaces the value of an entry, which then stands elsewhere.
-    /// @param expandedSize  what that adds to the size of all values that were replaced.
+    /// @param expandedSize  what that adds to the size of all values that were expanded.
     void Replace(Position entry, const Value& value, std::size_t expandedSize);
 
     std::size_t ExpandedSize() const noexcept { return expandedSize_; }
@@ -69,10 +77,19 @@ public:
     }
 
 private:
+    /// Makes room for so many units of entries altogether.
+    void ReserveEntries(std::size_t size);
+
+    /// Makes room for so many more keys.
+    void GrowIndex(std::size_t count);
+
     const Position* Lookup(std::u16string_view key, KeyIndex::Hash hash) const;
 
-    /// @return where the entry stands.
-    Position Write(std::u16string_view key, const Value& value);
+    /// @return where the entry that is written next stands.
+    Position MakeRoom(std::u16string_view key, const Value& value);
+
+    /// In room that was made, so that an entry is written whole or not at all.
+    void Write(std::u16string_view key, const Value& value);
 
     std::u16string entries_;
     KeyIndex index_;

@@ -2,6 +2,7 @@
 
 #include <boost/numeric/conversion/cast.hpp>
 #include <cstdint>
+#include <cstring>
 
 namespace LocalizationManager::StringLocalizing::Model {
 
@@ -9,8 +10,7 @@ namespace {
 
 void SetLength(std::u16string& code, std::size_t position, std::size_t length) {
     const auto value = boost::numeric_cast<std::uint32_t>(length);
-    code[position] = static_cast<char16_t>(value & 0xFFFFU);
-    code[position + 1] = static_cast<char16_t>(value >> 16U);
+    std::memcpy(&code[position], &value, sizeof value);
 }
 
 }  // namespace

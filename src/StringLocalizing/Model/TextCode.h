@@ -3,12 +3,14 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
 namespace LocalizationManager::StringLocalizing::Model {
 
-/// A length takes so many units, the lower half first.
+/// A length takes so many units, which together are one number of 32 bits.
 inline constexpr std::size_t kLengthUnits = 2;
 
 /// @throws boost::numeric::positive_overflow for a length beyond 32 bits.
@@ -19,7 +21,8 @@ void ExtendText(std::u16string& code, std::size_t position, std::u16string_view 
 
 /// Takes a text off the front.
 inline std::u16string_view TakeText(std::u16string_view& code) noexcept {
-    const std::size_t length = code[0] | static_cast<std::size_t>(code[1]) << 16U;
+    std::uint32_t length = 0;
+    std::memcpy(&length, code.data(), sizeof length);
     const std::u16string_view text(code.data() + kLengthUnits, length);
     code.remove_prefix(kLengthUnits + length);
     return text;

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "OperandKind.h"
-#include "OperandView.h"
 #include "ValueView.h"
 
 namespace LocalizationManager::StringLocalizing::Model {
@@ -18,16 +17,36 @@ class Value {
 public:
     ValueView view() const noexcept { return ValueView(code_); }
 
-    /// @param text   of a text; else the key, or the parameter's name.
-    /// @param forms  of a plural form.
-    void Append(OperandKind kind, std::u16string_view text, const std::vector<Value>& forms = {});
+    /// What it takes to keep, in units: its texts and names, and some for each operand and form.
+    std::size_t size() const noexcept { return code_.size(); }
 
-    /// Appends an operand of another value; a text is joined to a text before it.
-    void Join(const OperandView& operand);
+    void AppendText(std::u16string_view text) { Append(OperandKind::Text, text); }
+    void AppendKeyRef(std::u16string_view key) { Append(OperandKind::KeyRef, key); }
+    void AppendParam(std::u16string_view name) { Append(OperandKind::Param, name); }
+
+    /// Adds to the text that was appended last.
+    void ExtendText(std::u16string_view text);
+
+    /// A plural form, until `EndPluralForm`, takes forms; a form, until `EndForm`, takes operands.
+    void BeginPluralForm(std::u16string_view paramName);
+    void BeginForm() { BeginPart(); }
+    void EndForm() { EndPart(); }
+    void EndPluralForm() { EndPart(); }
+
+    /// Appends the operands of another value; a text that comes first is joined to a text before it.
+    void Join(ValueView value);
+
+    /// Takes all operands away, to be filled anew.
+    void Clear() noexcept;
 
 private:
+    void Append(OperandKind kind, std::u16string_view text);
+    void BeginPart();
+    void EndPart();
+
     std::u16string code_;
-    std::size_t last_ = 0;  // where the last operand begins
+    std::size_t last_ = 0;            // where the last operand begins
+    std::vector<std::size_t> parts_;  // where the lengths of those stand that are not ended
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Model

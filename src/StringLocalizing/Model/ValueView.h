@@ -10,6 +10,18 @@
 
 namespace LocalizationManager::StringLocalizing::Model {
 
+/// Takes an operand off the front of a value's code.
+inline OperandView TakeOperand(std::u16string_view& code) noexcept {
+    const std::u16string_view all = code;
+    code.remove_prefix(1);
+    OperandView operand{static_cast<OperandKind>(all[0]), TakeText(code), {}, {}};
+    if (operand.kind == OperandKind::PluralForm) {
+        operand.forms = TakeText(code);
+    }
+    operand.code = all.substr(0, all.size() - code.size());
+    return operand;
+}
+
 /// The operands of a value that somebody else keeps.
 class ValueView {
 public:
@@ -36,15 +48,10 @@ public:
 
     private:
         void Read() noexcept {
-            if (rest_.empty()) {
-                return;
+            if (!rest_.empty()) {
+                std::u16string_view rest = rest_;
+                operand_ = TakeOperand(rest);
             }
-            std::u16string_view rest = rest_.substr(1);
-            operand_.kind = static_cast<OperandKind>(rest_[0]);
-            operand_.text = TakeText(rest);
-            operand_.forms =
-                operand_.kind == OperandKind::PluralForm ? TakeText(rest) : std::u16string_view();
-            operand_.code = rest_.substr(0, rest_.size() - rest.size());
         }
 
         std::u16string_view rest_;

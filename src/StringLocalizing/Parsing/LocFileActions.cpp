@@ -4,34 +4,25 @@
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-void AddEntry(Model::ResourceDictionary& dictionary, KeyValueEntry& entry,
-              const Text::LowerCaseMapping& lowerCase) {
-    lowerCase.Map(entry.first, entry.first.data());
-    if (!dictionary.Add(entry.first, entry.second)) {
-        throw DuplicateKeyException(entry.first);
+void LocFileActions::BeginEntry(const Range& key) {
+    LowerCase(key, key_);
+    value_.Clear();
+}
+
+void LocFileActions::AddEntry() {
+    if (!dictionary_.Add(key_, value_)) {
+        throw DuplicateKeyException(key_);
     }
 }
 
-void AddOperand(Model::Value& value, Model::Operand& operand) {
-    Model::Append(value, operand);
+void LocFileActions::AddKeyRef(const Range& key) {
+    LowerCase(key, referenced_);
+    value_.AppendKeyRef(referenced_);
 }
 
-void SetKeyRef(Model::KeyRef& keyRef, std::u16string& name,
-               const Text::LowerCaseMapping& lowerCase) {
-    lowerCase.Map(name, name.data());
-    keyRef.key = std::move(name);
-}
-
-void SetName(Model::Param& param, std::u16string& name) {
-    param.name = std::move(name);
-}
-
-void SetName(Model::PluralForm& pluralForm, std::u16string& name) {
-    pluralForm.paramName = std::move(name);
-}
-
-void AddForm(Model::PluralForm& pluralForm, Model::Value& value) {
-    pluralForm.forms.push_back(std::move(value));
+void LocFileActions::LowerCase(const Range& key, std::u16string& lower) const {
+    lower.assign(key.begin(), key.end());
+    lowerCase_.Map(lower, lower.data());
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

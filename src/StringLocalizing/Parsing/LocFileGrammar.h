@@ -1,17 +1,15 @@
 // The syntax of localisation files. Slow to compile: for LocFileParser.cpp alone.
 #pragma once
 
-#include <boost/fusion/include/std_pair.hpp>
 #include <boost/phoenix/bind.hpp>
 #include <boost/phoenix/core.hpp>
-#include <boost/phoenix/function.hpp>
 #include <boost/phoenix/operator.hpp>
 #include <boost/spirit/include/qi.hpp>
 #include <string>
-#include <utility>
 
 #include "LocFileActions.h"
 #include "NestingGuard.h"
+#include "max_forms.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
@@ -19,35 +17,48 @@ using std::string_literals::operator""s;  // a rule takes a plain literal for it
 
 /// A rule that skips does so in its body and has no skipper type of its own. Its caller then passes
 /// over whitespace before it, also when it fails, and errors point behind that whitespace.
-class LocFileGrammar
-    : public boost::spirit::qi::grammar<const char16_t*, Model::ResourceDictionary()> {
+///
+/// An operand is written down as soon as nothing can fail any more but the whole parse.
+class LocFileGrammar : public boost::spirit::qi::grammar<const char16_t*> {
 public:
-    LocFileGrammar();
+    explicit LocFileGrammar(LocFileActions& actions);
 
 private:
+    using Range = LocFileActions::Range;
     template <typename... Attribute>
     using Rule = boost::spirit::qi::rule<const char16_t*, Attribute...>;
 
     void DefineEntries();
     void DefineOperands();
 
-    Rule<Model::ResourceDictionary()> resourceDictionary_{"resourceDictionary_"s};
+    /// An action of the grammar, with what was read or without.
+    template <class Class, class... Arguments>
+    static auto Do(void (Class::*action)(Arguments...), Class& object) {
+        if constexpr (sizeof...(Arguments) == 0) {
+            return boost::phoenix::bind(action, &object);
+        } else {
+            return boost::phoenix::bind(action, &object, boost::spirit::qi::_1);
+        }
+    }
+
+    Rule<> resourceDictionary_{"resourceDictionary_"s};
     Rule<> comment_{"comment_"s};
-    Rule<KeyValueEntry()> keyValueEntry_{"keyValueEntry_"s};
-    Rule<std::u16string()> key_{"key_"s};
-    Rule<Model::Value()> expression_{"expression_"s};
-    Rule<Model::Operand()> operand_{"operand_"s};
-    Rule<std::u16string()> string_{"string_"s};
-    Rule<std::u16string()> paramName_{"paramName_"s};
-    Rule<Model::Param()> param_{"param_"s};
-    Rule<Model::KeyRef()> keyRef_{"keyRef_"s};
-    Rule<Model::PluralForm()> pluralForm_{"pluralForm_"s};
+    Rule<> keyValueEntry_{"keyValueEntry_"s};
+    Rule<Range()> key_{"key_"s};
+    Rule<> expression_{"expression_"s};
+    Rule<> operand_{"operand_"s};
+    Rule<> string_{"string_"s};
+    Rule<Range()> paramName_{"paramName_"s};
+    Rule<Range()> param_{"param_"s};
+    Rule<> keyRef_{"keyRef_"s};
+    Rule<> pluralForm_{"pluralForm_"s};
     boost::spirit::qi::symbols<char16_t, char16_t> escapes_;
-    Text::LowerCaseMapping lowerCase_;
+    LocFileActions& actions_;
     NestingGuard nesting_{"plural forms"};
 };
 
-inline LocFileGrammar::LocFileGrammar() : base_type(resourceDictionary_, "resourceDictionary_") {
+inline LocFileGrammar::LocFileGrammar(LocFileActions& actions)
+    : base_type(resourceDictionary_, "resourceDictionary_"), actions_(actions) {
     escapes_.add(std::u16string(u"\\n"), u'\n');
     escapes_.add(std::u16string(u"\\\\"), u'\\');
     escapes_.add(std::u16string(u"\\'"), u'\'');
@@ -56,55 +67,45 @@ inline LocFileGrammar::LocFileGrammar() : base_type(resourceDictionary_, "resour
 }
 
 inline void LocFileGrammar::DefineEntries() {
-    using boost::phoenix::bind;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::char_;
     using boost::spirit::standard_wide::space;
+    using Actions = LocFileActions;
 
-    const boost::phoenix::function addEntry(
-        [this](Model::ResourceDictionary& dictionary, KeyValueEntry& entry) {
-            AddEntry(dictionary, entry, lowerCase_);
-        });
-
-    resourceDictionary_ = skip(space | comment_)[*keyValueEntry_[addEntry(_val, _1)] > eoi];
+    resourceDictionary_ =
+        skip(space | comment_)[*keyValueEntry_[Do(&Actions::AddEntry, actions_)] > eoi];
     comment_ = L';' >> *(char_ - eol);
-    keyValueEntry_ = skip(space)[key_ > L'=' > expression_];
-    key_ = raw[char_(L"a-zA-Z_") >> *char_(L"a-zA-Z_0-9.")];
-    expression_ = skip(space)[operand_[bind(&AddOperand, _val, _1)] % L'+'];
+    keyValueEntry_ = skip(space)[key_[Do(&Actions::BeginEntry, actions_)] > L'=' > expression_];
+    key_ =
+        raw[boost::spirit::ascii::char_("a-zA-Z_") >> *boost::spirit::ascii::char_("a-zA-Z_0-9.")];
+    expression_ = skip(space)[operand_ % L'+'];
 }
 
 inline void LocFileGrammar::DefineOperands() {
-    using boost::phoenix::bind;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::char_;
     using boost::spirit::standard_wide::space;
+    using Actions = LocFileActions;
 
-    const boost::phoenix::function moveTo(
-        [](Model::Operand& operand, auto& alternative) { operand = std::move(alternative); });
-    const boost::phoenix::function append(
-        [](std::u16string& text, const auto& run) { text.append(run.begin(), run.end()); });
-    const boost::phoenix::function appendUnit(
-        [](std::u16string& text, char16_t unit) { text.push_back(unit); });
-    const boost::phoenix::function setKeyRef([this](Model::KeyRef& keyRef, std::u16string& name) {
-        SetKeyRef(keyRef, name, lowerCase_);
-    });
-    const boost::phoenix::function setName(
-        [](auto& target, std::u16string& name) { SetName(target, name); });
+    const auto beginForm = Do(&Actions::BeginForm, actions_);
+    const auto endForm = Do(&Actions::EndForm, actions_);
+    const auto addUnit = Do(&Actions::AddUnit, actions_);
 
-    operand_ = string_[moveTo(_val, _1)] | keyRef_[moveTo(_val, _1)] | param_[moveTo(_val, _1)] |
-               pluralForm_[moveTo(_val, _1)];
-    string_ =
-        (L'\'' >> *(raw[+(char_ - (lit(L'\'') | L'\\'))][append(_val, _1)] |
-                    escapes_[appendUnit(_val, _1)] | lit(L'\\')[appendUnit(_val, u'\\')])) > L'\'';
-    keyRef_ = key_[setKeyRef(_val, _1)];
+    operand_ = string_ | keyRef_ | param_[Do(&Actions::AddParam, actions_)] | pluralForm_;
+    string_ = (lit(L'\'')[Do(&Actions::BeginText, actions_)] >>
+               *(raw[+(char_ - (lit(L'\'') | L'\\'))][Do(&Actions::AddRun, actions_)] |
+                 escapes_[addUnit] | char_(L'\\')[addUnit])) > L'\'';
+    keyRef_ = key_[Do(&Actions::AddKeyRef, actions_)];
     paramName_ = L'$' > key_;
-    param_ = skip(space)[paramName_[setName(_val, _1)] >> !lit(L':')];
+    param_ = skip(space)[paramName_ >> !lit(L':')];
     // All recursion of the grammar goes through this rule.
     pluralForm_ =
-        skip(space)[raw[lit(L'{')][bind(&NestingGuard::Enter, &nesting_, _1)] >
-                    paramName_[setName(_val, _1)] > L':' > expression_[bind(&AddForm, _val, _1)] >
-                    repeat(0, 5)[L',' > expression_[bind(&AddForm, _val, _1)]] >
-                    lit(L'}')[bind(&NestingGuard::Leave, &nesting_)]];
+        skip(space)[raw[lit(L'{')][Do(&NestingGuard::Enter, nesting_)] >
+                    paramName_[Do(&Actions::BeginPluralForm, actions_)] > lit(L':')[beginForm] >
+                    expression_[endForm] >
+                    repeat(0, Model::kMaxForms - 1)[lit(L',')[beginForm] > expression_[endForm]] >
+                    lit(L'}')[Do(&NestingGuard::Leave, nesting_)]
+                             [Do(&Actions::EndPluralForm, actions_)]];
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

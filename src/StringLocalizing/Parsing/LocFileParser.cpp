@@ -9,9 +9,10 @@ void ParseResourceDictionary(const SourceIterator& first, const SourceIterator& 
                              Model::ResourceDictionary& dictionary) {
     try {
         dictionary.Reserve(static_cast<std::size_t>(last.base() - first.base()));
-        LocFileGrammar grammar;  // counts while it parses
+        LocFileActions actions(dictionary);
+        const LocFileGrammar grammar(actions);
         const char16_t* current = first.base();
-        boost::spirit::qi::parse(current, last.base(), grammar, dictionary);
+        boost::spirit::qi::parse(current, last.base(), grammar);
     } catch (...) {
         TranslateParseError(first);
     }

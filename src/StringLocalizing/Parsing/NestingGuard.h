@@ -4,17 +4,13 @@
 #include <boost/range/iterator_range_core.hpp>
 #include <string>
 
+#include "NestingLimitExceeded.h"
+
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-/// Parsers, resolvers and destructors recurse into nested forms on the stack of a host's thread. The
-/// limit is far beyond what texts need, and fits a stack of 256 KiB.
+/// Parsers and resolvers recurse into nested forms on the stack of a host's thread. The limit is far
+/// beyond what texts need, and what it takes of a stack stands in the guide for hosts.
 inline constexpr int kMaxNesting = 64;
-
-/// What is nested goes too deep at a place.
-struct NestingLimitExceeded {
-    const char16_t* place;
-    const char* what;  // static
-};
 
 /// Counts the openings that a parser has passed and not closed. A parser that fails after an opening
 /// ends, so that nothing has to be counted back.
@@ -26,7 +22,8 @@ public:
     /// @throws NestingLimitExceeded at the opening that is one too many.
     void Enter(const boost::iterator_range<const char16_t*>& opening) {
         if (depth_ == kMaxNesting) {
-            throw NestingLimitExceeded{opening.begin(), what_};
+            throw NestingLimitExceeded(
+                opening.begin(), "at most " + std::to_string(kMaxNesting) + " nested " + what_);
         }
         ++depth_;
     }

@@ -5,11 +5,12 @@
 #include <cstddef>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "DuplicateKeyException.h"
-#include "NestingGuard.h"
+#include "MessageUtf8.h"
+#include "NestingLimitExceeded.h"
 #include "ParsingException.h"
-#include "Utf8.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
@@ -20,10 +21,6 @@ using ExpectationFailure = boost::spirit::qi::expectation_failure<const char16_t
 // What is expected after a key. It is missing there when a string before the key never ended.
 constexpr std::string_view kKeyTermination = "\"=\"";
 
-std::u16string ToText(int number) {
-    return Text::FromUtf8(std::to_string(number));
-}
-
 /// The parsers run without positions, which are needed only now.
 SourceIterator Locate(SourceIterator position, const char16_t* place) {
     while (position.base() != place) {
@@ -32,13 +29,15 @@ SourceIterator Locate(SourceIterator position, const char16_t* place) {
     return position;
 }
 
-std::u16string FormatExpectation(const SourceIterator& position, const std::string& expected) {
-    std::u16string message = FormatParsePosition(position);
-    message.append(u" expecting ").append(Text::FromUtf8(expected)).append(u" here");
+ParsingException Expectation(const SourceIterator& first, const char16_t* place,
+                             const std::string& expected) {
+    std::string expectation = " expecting " + expected + " here";
     if (expected == kKeyTermination) {
-        message.append(u" or one of previous lines miss termination '(qoute)");
+        expectation += " or one of previous lines miss termination '(qoute)";
     }
-    return message;
+    std::string message = FormatParsePosition(Locate(first, place), expectation.size());
+    message += expectation;
+    return ParsingException(std::move(message), static_cast<std::size_t>(place - first.base()));
 }
 
 std::string ToText(const boost::spirit::info& description) {
@@ -49,14 +48,21 @@ std::string ToText(const boost::spirit::info& description) {
 
 }  // namespace
 
-std::u16string FormatParsePosition(const SourceIterator& position) {
+std::string FormatParsePosition(const SourceIterator& position, std::size_t room) {
     const SourcePosition& place = position.get_position();
-    std::u16string text = u"parse error at file ";
-    text.append(place.file);
-    text.append(u" line ").append(ToText(place.line));
-    text.append(u" column ").append(ToText(place.column));
-    text.append(u"\n\"").append(position.get_currentline()).append(u"\"\n");
-    text.append(static_cast<std::size_t>(place.column), u' ').append(u"^-");
+    const char16_t* const lineBegin = position.get_currentline_begin();
+    const std::u16string_view line(
+        lineBegin, static_cast<std::size_t>(position.get_currentline_end() - lineBegin));
+    const auto column = static_cast<std::size_t>(place.column);
+    std::string text = "parse error at file " + Text::ToUtf8(place.file) + " line " +
+                       std::to_string(place.line) + " column " + std::to_string(place.column) +
+                       "\n\"";
+    constexpr std::string_view kLineEnd = "\"\n";
+    constexpr std::string_view kCaret = "^-";
+    text.reserve(text.size() + Text::Utf8Size(line) + kLineEnd.size() + column + kCaret.size() +
+                 room);
+    Text::AppendUtf8(text, line);
+    text.append(kLineEnd).append(column, ' ').append(kCaret);
     return text;
 }
 
@@ -64,14 +70,11 @@ void TranslateParseError(const SourceIterator& first) {
     try {
         throw;
     } catch (const DuplicateKeyException& duplicate) {
-        throw ParsingException(Text::FromUtf8(duplicate.what()));
+        throw ParsingException(duplicate.what());
     } catch (const ExpectationFailure& failure) {
-        throw ParsingException(
-            FormatExpectation(Locate(first, failure.first), ToText(failure.what_)));
+        throw Expectation(first, failure.first, ToText(failure.what_));
     } catch (const NestingLimitExceeded& limit) {
-        throw ParsingException(
-            FormatExpectation(Locate(first, limit.place),
-                              "at most " + std::to_string(kMaxNesting) + " nested " + limit.what));
+        throw Expectation(first, limit.Place(), limit.what());
     }
 }
 

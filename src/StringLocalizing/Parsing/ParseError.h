@@ -1,6 +1,7 @@
 // The error texts of both parsers.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "SourceIterator.h"
@@ -9,7 +10,8 @@ namespace LocalizationManager::StringLocalizing::Parsing {
 
 /// Three lines: where, the line of the source in quotes, and a caret below the column. What follows
 /// continues the third.
-std::u16string FormatParsePosition(const SourceIterator& position);
+/// @param room  for so many bytes more. The line may be as long as its file: nothing is made twice.
+std::string FormatParsePosition(const SourceIterator& position, std::size_t room);
 
 /// To be called in a handler: throws the exception in flight as what the caller of the parser gets.
 /// Faults of the text become a `ParsingException`, all others pass unchanged.

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "Utf8.h"
-
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-ParsingException::ParsingException(std::u16string message)
-    : std::runtime_error(Text::ToUtf8(message)), message_(std::move(message)) {}
+ParsingException::ParsingException(std::string message, std::optional<std::size_t> offset)
+    : std::runtime_error("parsing failed"),
+      message_(std::make_shared<const std::string>(std::move(message))),
+      offset_(offset) {}
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

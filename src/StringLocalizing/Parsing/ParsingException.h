@@ -1,20 +1,26 @@
 // A text that could not be parsed.
 #pragma once
 
+#include <cstddef>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-/// `what()` is the message as UTF-8.
 class ParsingException : public std::runtime_error {
 public:
-    explicit ParsingException(std::u16string message);
+    /// @param message  UTF-8; kept as it is, since a line that it shows may be as long as its file.
+    /// @param offset   where the text is faulty, in units from its start; empty for what has no place.
+    explicit ParsingException(std::string message, std::optional<std::size_t> offset = {});
 
-    const std::u16string& Message() const noexcept { return message_; }
+    const char* what() const noexcept override { return message_->c_str(); }
+    std::optional<std::size_t> Offset() const noexcept { return offset_; }
 
 private:
-    std::u16string message_;
+    std::shared_ptr<const std::string> message_;  // shared: to copy an exception must not fail
+    std::optional<std::size_t> offset_;
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

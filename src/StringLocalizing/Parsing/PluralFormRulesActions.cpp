@@ -7,6 +7,8 @@
 #include <boost/shared_ptr.hpp>
 #include <stdexcept>
 
+#include "Remainder.h"
+
 namespace LocalizationManager::StringLocalizing::Parsing {
 
 namespace {
@@ -52,8 +54,8 @@ void Join(PluralFormCondition& result, const PluralFormCondition& first, const C
 
 }  // namespace
 
-void MakeComparison(PluralFormCondition& result, const NumberExpression& term, CompareOperator op,
-                    std::uint32_t constant) {
+void PluralFormRulesActions::MakeComparison(Condition& result, const Term& term, CompareOperator op,
+                                            std::uint32_t constant) {
     const auto value = boost::lambda::bind(term, boost::lambda::_1);
     const auto number = static_cast<std::int64_t>(constant);
     switch (op) {
@@ -79,20 +81,21 @@ void MakeComparison(PluralFormCondition& result, const NumberExpression& term, C
     throw std::logic_error("unexpected compare operator type");
 }
 
-void MakeOr(PluralFormCondition& result, const PluralFormCondition& first, const Conditions& rest) {
+void PluralFormRulesActions::MakeOr(Condition& result, const Condition& first,
+                                    const std::vector<Condition>& rest) {
     Join<AnyOf>(result, first, rest);
 }
 
-void MakeAnd(PluralFormCondition& result, const PluralFormCondition& first,
-             const Conditions& rest) {
+void PluralFormRulesActions::MakeAnd(Condition& result, const Condition& first,
+                                     const std::vector<Condition>& rest) {
     Join<AllOf>(result, first, rest);
 }
 
-void MakeModulo(NumberExpression& result, std::uint32_t divisor) {
-    result = boost::lambda::_1 % static_cast<std::int64_t>(divisor);
+void PluralFormRulesActions::MakeModulo(Term& result, std::uint32_t divisor) {
+    result = Model::Remainder(divisor);
 }
 
-void MakeParameter(NumberExpression& result) {
+void PluralFormRulesActions::MakeParameter(Term& result) {
     result = &Identity;
 }
 

@@ -1,4 +1,4 @@
-// How the grammar of plural rule files builds its conditions. They hold no reference to the text.
+// How the engine builds the conditions of plural rule files. They hold no reference to the text.
 #pragma once
 
 #include <boost/function.hpp>
@@ -10,26 +10,31 @@
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-/// What a comparison compares, for a number.
-using NumberExpression = boost::function<std::int64_t(std::int64_t)>;
+/// For the grammar, which can fill other records of a rule by other actions.
+struct PluralFormRulesActions {
+    using Condition = Model::PluralFormCondition;
 
-/// @throws std::logic_error for a value that is no operator.
-void MakeComparison(Model::PluralFormCondition& result, const NumberExpression& term,
-                    CompareOperator op, std::uint32_t constant);
+    /// What a comparison compares, for a number.
+    using Term = boost::function<std::int64_t(std::int64_t)>;
 
-/// Holds when one of the conditions does; tried from the left until then. The cost of building and
-/// copying it does not grow with every condition joined so far, so a long chain stays cheap.
-void MakeOr(Model::PluralFormCondition& result, const Model::PluralFormCondition& first,
-            const std::vector<Model::PluralFormCondition>& rest);
+    /// @throws std::logic_error for a value that is no operator.
+    static void MakeComparison(Condition& result, const Term& term, CompareOperator op,
+                               std::uint32_t constant);
 
-/// Holds when all conditions do; tried from the left until one does not.
-void MakeAnd(Model::PluralFormCondition& result, const Model::PluralFormCondition& first,
-             const std::vector<Model::PluralFormCondition>& rest);
+    /// Holds when one of the conditions does; tried from the left until then. The cost of building
+    /// and copying it does not grow with every condition joined so far, so a long chain stays cheap.
+    static void MakeOr(Condition& result, const Condition& first,
+                       const std::vector<Condition>& rest);
 
-/// The remainder, which is negative for a negative number. The divisor must not be zero.
-void MakeModulo(NumberExpression& result, std::uint32_t divisor);
+    /// Holds when all conditions do; tried from the left until one does not.
+    static void MakeAnd(Condition& result, const Condition& first,
+                        const std::vector<Condition>& rest);
 
-/// The number itself.
-void MakeParameter(NumberExpression& result);
+    /// The remainder. The divisor must not be zero.
+    static void MakeModulo(Term& result, std::uint32_t divisor);
+
+    /// The number itself.
+    static void MakeParameter(Term& result);
+};
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

@@ -1,4 +1,4 @@
-// The syntax of plural rule files. Slow to compile: for PluralFormRulesParser.cpp alone.
+// The syntax of plural rule files. Slow to compile: for one source file per kind of actions.
 #pragma once
 
 #include <boost/phoenix/bind.hpp>
@@ -8,9 +8,10 @@
 #include <boost/spirit/include/qi.hpp>
 #include <cstdint>
 #include <string>
+#include <vector>
 
+#include "CompareOperator.h"
 #include "NestingGuard.h"
-#include "PluralFormRulesActions.h"
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
@@ -18,11 +19,14 @@ using std::string_literals::operator""s;  // a rule takes a plain literal for it
 
 /// Rules without a name print as "unnamed-rule" in error texts. No rule has a skipper type of its
 /// own, for the reason that the grammar of localisation files gives.
-template <typename Iterator>
+/// @tparam Actions  what becomes of the conditions, see `PluralFormRulesActions`.
+template <typename Iterator, class Actions>
 class PluralFormRulesGrammar
-    : public boost::spirit::qi::grammar<Iterator, Model::PluralFormRule()> {
+    : public boost::spirit::qi::grammar<Iterator, std::vector<typename Actions::Condition>()> {
 public:
     using Operator = CompareOperator;
+    using Condition = typename Actions::Condition;
+    using Term = typename Actions::Term;
 
     PluralFormRulesGrammar();
 
@@ -34,14 +38,14 @@ private:
     void DefineTerms();
     void DefineOperators();
 
-    Rule<Model::PluralFormRule()> pluralFormRules_{"pluralFormRules_"s};
-    Rule<Model::PluralFormCondition()> orExpression_{"orExpression_"s};
-    Rule<Model::PluralFormCondition()> andExpression_{"andExpression_"s};
-    Rule<Model::PluralFormCondition()> primary_;
-    Rule<Model::PluralFormCondition()> compareExpression_{"compareExpression_"s};
-    Rule<NumberExpression()> numberTerm_;
-    Rule<NumberExpression()> parameter_{"parameter_"s};
-    Rule<NumberExpression()> moduloExpression_{"moduloExpression_"s};
+    Rule<std::vector<Condition>()> pluralFormRules_{"pluralFormRules_"s};
+    Rule<Condition()> orExpression_{"orExpression_"s};
+    Rule<Condition()> andExpression_{"andExpression_"s};
+    Rule<Condition()> primary_;
+    Rule<Condition()> compareExpression_{"compareExpression_"s};
+    Rule<Term()> numberTerm_;
+    Rule<Term()> parameter_{"parameter_"s};
+    Rule<Term()> moduloExpression_{"moduloExpression_"s};
     Rule<std::uint32_t()> divisor_{"unsigned-integer"s};  // as errors call other numbers
     Rule<Operator()> compareOperator_;
     Rule<Operator()> equal_{"equal_"s};
@@ -55,26 +59,26 @@ private:
     NestingGuard nesting_{"parentheses"};
 };
 
-template <typename Iterator>
-PluralFormRulesGrammar<Iterator>::PluralFormRulesGrammar()
+template <typename Iterator, class Actions>
+PluralFormRulesGrammar<Iterator, Actions>::PluralFormRulesGrammar()
     : PluralFormRulesGrammar::base_type(pluralFormRules_, "pluralFormRules_") {
     DefineConditions();
     DefineTerms();
     DefineOperators();
 }
 
-template <typename Iterator>
-void PluralFormRulesGrammar<Iterator>::DefineConditions() {
+template <typename Iterator, class Actions>
+void PluralFormRulesGrammar<Iterator, Actions>::DefineConditions() {
     using boost::phoenix::bind;
     using boost::phoenix::push_back;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::space;
 
     pluralFormRules_ = skip(space)[repeat(0, 5)[orExpression_[push_back(_val, _1)] > L';'] > eoi];
-    orExpression_ =
-        skip(space)[(andExpression_ > *(orToken_ > andExpression_))[bind(&MakeOr, _val, _1, _2)]];
+    orExpression_ = skip(space)[(
+        andExpression_ > *(orToken_ > andExpression_))[bind(&Actions::MakeOr, _val, _1, _2)]];
     andExpression_ =
-        skip(space)[(primary_ > *(andToken_ > primary_))[bind(&MakeAnd, _val, _1, _2)]];
+        skip(space)[(primary_ > *(andToken_ > primary_))[bind(&Actions::MakeAnd, _val, _1, _2)]];
     // All recursion of the grammar goes through this rule.
     // With an action inside, the condition is passed up by `%=` only.
     primary_ %=
@@ -84,22 +88,23 @@ void PluralFormRulesGrammar<Iterator>::DefineConditions() {
     orToken_ = lit(L"||");
 }
 
-template <typename Iterator>
-void PluralFormRulesGrammar<Iterator>::DefineTerms() {
+template <typename Iterator, class Actions>
+void PluralFormRulesGrammar<Iterator, Actions>::DefineTerms() {
     using boost::phoenix::bind;
     using namespace boost::spirit::qi;
     using boost::spirit::standard_wide::space;
 
-    compareExpression_ = skip(
-        space)[(numberTerm_ > compareOperator_ > uint_)[bind(&MakeComparison, _val, _1, _2, _3)]];
+    compareExpression_ = skip(space)[(numberTerm_ > compareOperator_ >
+                                      uint_)[bind(&Actions::MakeComparison, _val, _1, _2, _3)]];
     numberTerm_ = parameter_ | moduloExpression_;
-    parameter_ = skip(space)[(lit(L'n') >> !lit(L'%'))[bind(&MakeParameter, _val)]];
-    moduloExpression_ = skip(space)[(lit(L'n') > L'%' > divisor_)[bind(&MakeModulo, _val, _1)]];
+    parameter_ = skip(space)[(lit(L'n') >> !lit(L'%'))[bind(&Actions::MakeParameter, _val)]];
+    moduloExpression_ =
+        skip(space)[(lit(L'n') > L'%' > divisor_)[bind(&Actions::MakeModulo, _val, _1)]];
     divisor_ = uint_[_pass = _1 != 0U, _val = _1];
 }
 
-template <typename Iterator>
-void PluralFormRulesGrammar<Iterator>::DefineOperators() {
+template <typename Iterator, class Actions>
+void PluralFormRulesGrammar<Iterator, Actions>::DefineOperators() {
     using namespace boost::spirit::qi;
 
     compareOperator_ = equal_ | notEqual_ | less_ | greater_ | lessOrEqual_ | greaterOrEqual_;

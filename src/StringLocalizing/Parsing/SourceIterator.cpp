@@ -2,18 +2,12 @@
 
 namespace LocalizationManager::StringLocalizing::Parsing {
 
-namespace {
-
-constexpr unsigned kTabWidth = 4;
-
-}  // namespace
-
-SourceRange MakeSourceRange(std::u16string_view text, std::u16string_view sourceName) {
+SourceRange MakeSourceRange(std::u16string_view text, std::u16string_view sourceName,
+                            std::int64_t line) {
     const char16_t* const begin = text.data();
     const char16_t* const end = begin + text.size();
-    SourceRange range{SourceIterator(begin, end, sourceName), SourceIterator(end, end, sourceName)};
-    range.first.set_tabchars(kTabWidth);
-    return range;
+    const SourcePosition start{sourceName, line};
+    return {SourceIterator(begin, end, start), SourceIterator(end, end, start)};
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

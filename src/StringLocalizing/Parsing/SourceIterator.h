@@ -2,12 +2,12 @@
 #pragma once
 
 #include <boost/spirit/include/classic_position_iterator.hpp>
+#include <cstdint>
 #include <string_view>
 
-namespace LocalizationManager::StringLocalizing::Parsing {
+#include "SourcePosition.h"
 
-/// Copied with every copy of an iterator, so it only views the name of the source.
-using SourcePosition = boost::spirit::classic::file_position_base<std::u16string_view>;
+namespace LocalizationManager::StringLocalizing::Parsing {
 
 /// Lines end with LF, CR LF or CR; columns count UTF-16 units, and a tab goes to the next stop.
 using SourceIterator = boost::spirit::classic::position_iterator2<const char16_t*, SourcePosition>;
@@ -20,6 +20,8 @@ struct SourceRange {
 };
 
 /// Text and name must outlive the range.
-SourceRange MakeSourceRange(std::u16string_view text, std::u16string_view sourceName);
+/// @param line  the number of the line that the text begins.
+SourceRange MakeSourceRange(std::u16string_view text, std::u16string_view sourceName,
+                            std::int64_t line = 1);
 
 }  // namespace LocalizationManager::StringLocalizing::Parsing

@@ -19,12 +19,11 @@
 namespace LocalizationManager::StringLocalizing::Pipeline {
 
 using localization_manager::Culture;
-using localization_manager::IResolveListener;
 
 namespace {
 
-boost::shared_ptr<Model::IPluralFormRules> LoadPluralRules(IResourceProvider& resourceProvider,
-                                                           const Model::PluralFormRuleId& id) {
+boost::shared_ptr<Model::IPluralFormRules> LoadPluralRules(
+    const IResourceProvider& resourceProvider, const Model::PluralFormRuleId& id) {
     if (!resourceProvider.HasPluralFormRules(id)) {
         return Model::CreatePluralFormRules();
     }
@@ -48,9 +47,9 @@ ProcessingPipeline::ProcessingPipeline(
         paramResolver_, ruleId, LoadPluralRules(*resourceProvider, ruleId));
 }
 
-Resolving::ResolvedText ProcessingPipeline::GetString(std::u16string_view key,
-                                                      IResolveListener* listener) {
-    return stringProvider_->GetString(key, listener);
+void ProcessingPipeline::GetString(std::u16string_view key, Resolving::IResolveListener* listener,
+                                   Resolving::ResolvedText& output) {
+    stringProvider_->GetString(key, listener, output);
 }
 
 bool ProcessingPipeline::HasString(std::u16string_view key) {

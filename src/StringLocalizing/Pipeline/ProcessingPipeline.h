@@ -19,8 +19,8 @@ public:
     ProcessingPipeline(const ProcessingPipeline&) = delete;
     ProcessingPipeline& operator=(const ProcessingPipeline&) = delete;
 
-    Resolving::ResolvedText GetString(std::u16string_view key,
-                                      localization_manager::IResolveListener* listener) override;
+    void GetString(std::u16string_view key, Resolving::IResolveListener* listener,
+                   Resolving::ResolvedText& output) override;
     bool HasString(std::u16string_view key) override;
 
 protected:

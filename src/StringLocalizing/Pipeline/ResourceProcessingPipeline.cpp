@@ -3,6 +3,7 @@
 #include <boost/current_function.hpp>
 #include <boost/make_shared.hpp>
 
+#include "ParsingException.h"
 #include "qor/rtl/contracts/checks.h"
 
 namespace LocalizationManager::StringLocalizing::Pipeline {
@@ -18,7 +19,15 @@ ResourceProcessingPipeline::ResourceProcessingPipeline(
         commonResourceDictionary,
         {"commonResourceDictionary", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
     if (commonResourceDictionary->empty()) {
-        LoadDictionary(resourceProvider, culture, commonResourceName, *commonResourceDictionary);
+        try {
+            LoadDictionary(resourceProvider, culture, commonResourceName,
+                           *commonResourceDictionary);
+        } catch (const Parsing::ParsingException&) {  // what stands before a mistake is kept
+            throw;
+        } catch (...) {  // a half of the texts would pass for all of them from now on
+            *commonResourceDictionary = {};
+            throw;
+        }
     }
     // A later pipeline may find a source that has texts by then and load it into the shared
     // dictionary. Whoever found nothing must not be reading it then.

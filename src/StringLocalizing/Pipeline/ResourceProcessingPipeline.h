@@ -11,9 +11,10 @@ namespace LocalizationManager::StringLocalizing::Pipeline {
 class ResourceProcessingPipeline : public ProcessingPipeline {
 public:
     /// @param commonResourceDictionary  filled from `commonResourceName` while it is empty, and
-    ///        compiled if it is not yet. The caller keeps other pipelines from being built over it
-    ///        at the same time. Finished pipelines read it without a lock: what is compiled is not
-    ///        written again, and a dictionary that stays empty is not kept.
+    ///        compiled if it is not yet. A mistake in the source leaves the entries before it in
+    ///        place; any other failure to load leaves it empty. The caller keeps other pipelines
+    ///        from being built over it at the same time. Finished pipelines read it without a lock:
+    ///        what is compiled is not written again, and a dictionary that stays empty is not kept.
     /// @param resourceName              the scope.
     ResourceProcessingPipeline(
         const boost::shared_ptr<IResourceProvider>& resourceProvider,

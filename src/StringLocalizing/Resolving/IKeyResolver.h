@@ -1,18 +1,19 @@
 // Turns a compiled value into its final text.
 #pragma once
 
+#include "IResolveListener.h"
 #include "ResolvedText.h"
 #include "ValueView.h"
-#include "localization_manager/IResolveListener.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
 class IKeyResolver {
 public:
-    /// @param value     lives longer than the result, which may show its texts.
+    /// Appends the final text of a value.
     /// @param listener  hears of every parameter and plural form; may be null.
-    virtual ResolvedText Resolve(Model::ValueView value,
-                                 localization_manager::IResolveListener* listener) = 0;
+    /// @param output    may show texts of the value, which lives longer.
+    virtual void Resolve(Model::ValueView value, IResolveListener* listener,
+                         ResolvedText& output) = 0;
 
     virtual ~IKeyResolver() = default;
 };

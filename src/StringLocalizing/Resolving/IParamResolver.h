@@ -1,15 +1,18 @@
 // Gives the engine the texts of external parameters.
 #pragma once
 
-#include "qor/basic_string_t.h"
+#include <string_view>
+
+#include "ResolvedText.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
 class IParamResolver {
 public:
+    /// Appends the text of a parameter.
     /// @param name  the parameter's name, letter case kept.
     /// @throws a standard exception when the parameter cannot be resolved.
-    virtual qor::string16_t Resolve(const qor::string16_t& name) = 0;
+    virtual void Resolve(std::u16string_view name, ResolvedText& output) = 0;
 
     virtual ~IParamResolver() = default;
 };

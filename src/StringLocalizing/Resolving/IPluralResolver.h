@@ -2,8 +2,7 @@
 #pragma once
 
 #include <cstdint>
-
-#include "qor/basic_string_t.h"
+#include <string_view>
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
@@ -11,7 +10,7 @@ class IPluralResolver {
 public:
     /// @param paramName  the parameter that holds the number.
     /// @return the index of the form to use.
-    virtual std::uint16_t Resolve(const qor::string16_t& paramName) = 0;
+    virtual std::uint16_t Resolve(std::u16string_view paramName) = 0;
 
     /// The number of forms that the culture's rule has.
     virtual std::uint16_t GetFormCount() = 0;

@@ -6,16 +6,13 @@
 #include <stdexcept>
 #include <utility>
 
-#include "Notify.h"
-#include "Utf8.h"
-#include "qor/objptr_t.h"
+#include "MessageUtf8.h"
 #include "qor/rtl/contracts/checks.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
 namespace {
 
-using localization_manager::IResolveListener;
 using localization_manager::ResolveKind;
 using Model::OperandKind;
 
@@ -37,6 +34,10 @@ Model::ValueView FormOf(const Model::OperandView& pluralForm, std::size_t index,
     return form;
 }
 
+[[noreturn]] void ThrowKeyReference(std::u16string_view key) {
+    throw std::logic_error("Key reference found (" + Text::ToUtf8(key) + "). Run compiler first");
+}
+
 /// Appends the texts of operands.
 class OperandResolver {
 public:
@@ -48,14 +49,14 @@ public:
           output_(output) {}
 
     void ResolveAll(Model::ValueView value) {
-        for (const Model::OperandView& operand : value) {
+        for (std::u16string_view rest = value.code(); !rest.empty();) {
+            const Model::OperandView operand = Model::TakeOperand(rest);
             switch (operand.kind) {
                 case OperandKind::Text:
                     output_.AppendLasting(operand.text);
                     break;
                 case OperandKind::KeyRef:
-                    throw std::logic_error("Key reference found (" + Text::ToUtf8(operand.text) +
-                                           "). Run compiler first");
+                    ThrowKeyReference(operand.text);
                 case OperandKind::Param:
                     ResolveParam(operand);
                     break;
@@ -68,19 +69,24 @@ public:
 
 private:
     void ResolveParam(const Model::OperandView& param) {
-        const qor::string16_t name(param.text);
-        const qor::string16_t text = paramResolver_.Resolve(name);
-        Notify(listener_, ResolveKind::Param, {}, param.text, text.view());
-        output_.Append(text.view());
+        const std::size_t start = output_.size();
+        paramResolver_.Resolve(param.text, output_);
+        Notify(ResolveKind::Param, param.text, start);
     }
 
     void ResolvePluralForm(const Model::OperandView& pluralForm) {
-        const std::uint16_t index = pluralResolver_.Resolve(qor::string16_t(pluralForm.text));
+        const std::uint16_t index = pluralResolver_.Resolve(pluralForm.text);
         const Model::ValueView form = FormOf(pluralForm, index, pluralResolver_.GetFormCount());
         const std::size_t start = output_.size();
         ResolveAll(form);
-        Notify(listener_, ResolveKind::PluralForm, {}, pluralForm.text,
-               output_.view().substr(start));
+        Notify(ResolveKind::PluralForm, pluralForm.text, start);
+    }
+
+    /// @param start  of the text that was put in place, in the output.
+    void Notify(ResolveKind kind, std::u16string_view name, std::size_t start) {
+        if (listener_ != nullptr) {
+            listener_->OnResolved(kind, {}, name, output_.view().substr(start));
+        }
     }
 
     IParamResolver& paramResolver_;
@@ -100,11 +106,9 @@ KeyResolver::KeyResolver(boost::shared_ptr<IParamResolver> paramResolver,
                                    {"pluralResolver", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
 }
 
-ResolvedText KeyResolver::Resolve(Model::ValueView value, IResolveListener* listener) {
-    const qor::objptr_t<IResolveListener> held(listener);
-    ResolvedText output;
+void KeyResolver::Resolve(Model::ValueView value, IResolveListener* listener,
+                          ResolvedText& output) {
     OperandResolver(*paramResolver_, *pluralResolver_, listener, output).ResolveAll(value);
-    return output;
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

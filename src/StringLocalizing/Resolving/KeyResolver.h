@@ -18,8 +18,7 @@ public:
 
     /// @throws std::logic_error for a key reference that was not compiled away, and for a plural
     ///         form with another number of forms than the culture's rule; what the resolvers throw.
-    ResolvedText Resolve(Model::ValueView value,
-                         localization_manager::IResolveListener* listener) override;
+    void Resolve(Model::ValueView value, IResolveListener* listener, ResolvedText& output) override;
 
 private:
     boost::shared_ptr<IParamResolver> paramResolver_;

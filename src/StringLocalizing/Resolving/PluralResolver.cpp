@@ -4,7 +4,7 @@
 #include <boost/current_function.hpp>
 #include <boost/format.hpp>
 #include <boost/lexical_cast/bad_lexical_cast.hpp>
-#include <charconv>
+#include <limits>
 #include <locale>
 #include <stdexcept>
 #include <utility>
@@ -18,52 +18,46 @@ namespace {
 /// A decimal integer and nothing else. What `boost::lexical_cast` accepts in the classic locale; it
 /// is not used itself because the process's global locale would change what it takes for a number.
 std::int64_t ParseNumber(std::u16string_view text) {
-    // Units beyond ASCII become a character that no number holds.
-    std::string digits(text.size(), '?');
-    std::transform(text.begin(), text.end(), digits.begin(),
-                   [](char16_t unit) { return unit < 0x80 ? static_cast<char>(unit) : '?'; });
-    const char* first = digits.data();
-    const char* const last = first + digits.size();
-    if (last - first > 1 && *first == '+' && first[1] != '-') {
-        ++first;
+    using Limits = std::numeric_limits<std::int64_t>;
+    const bool isNegative = !text.empty() && text.front() == u'-';
+    if (isNegative || (!text.empty() && text.front() == u'+')) {
+        text.remove_prefix(1);
     }
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(first, last, number);
-    if (error != std::errc() || end != last) {
+    bool isNumber = !text.empty();
+    std::int64_t negated = 0;  // reaches further than the number itself
+    for (const char16_t unit : text) {
+        const int digit = unit - u'0';
+        isNumber = isNumber && digit >= 0 && digit <= 9 && negated >= Limits::min() / 10 &&
+                   10 * negated >= Limits::min() + digit;
+        negated = isNumber ? 10 * negated - digit : 0;
+    }
+    if (!isNumber || (!isNegative && negated == Limits::min())) {
         throw boost::bad_lexical_cast();
     }
-    return number;
+    return isNegative ? negated : -negated;
 }
 
 }  // namespace
 
 PluralResolver::PluralResolver(boost::shared_ptr<IParamResolver> paramResolver,
                                const Model::PluralFormRuleId& ruleId,
-                               boost::shared_ptr<Model::IPluralFormRules> pluralFormRules)
-    : paramResolver_(std::move(paramResolver)),
-      ruleId_(ruleId),
-      pluralFormRules_(std::move(pluralFormRules)) {
+                               const boost::shared_ptr<Model::IPluralFormRules>& pluralFormRules)
+    : paramResolver_(std::move(paramResolver)), ruleId_(ruleId) {
     code_contracts::RequireNotNull(paramResolver_,
                                    {"paramResolver", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
-    code_contracts::RequireNotNull(pluralFormRules_,
+    code_contracts::RequireNotNull(pluralFormRules,
                                    {"pluralFormRules", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
-    try {
-        rule_ = pluralFormRules_->GetRule(ruleId_);
-    } catch (const std::exception&) {
-        // The requests that need the rule report it.
-    }
+    rule_ = pluralFormRules->GetRule(ruleId_);
 }
 
-std::uint16_t PluralResolver::Resolve(const qor::string16_t& paramName) {
-    const std::int64_t number = ParseNumber(paramResolver_->Resolve(paramName).view());
-    if (!rule_) {
-        pluralFormRules_->GetRule(ruleId_);  // fails as it did before
-    }
-    const Model::PluralFormRule& rule = rule_.value();
-    const auto entry = std::find_if(rule.begin(), rule.end(),
+std::uint16_t PluralResolver::Resolve(std::u16string_view paramName) {
+    ResolvedText digits;
+    paramResolver_->Resolve(paramName, digits);
+    const std::int64_t number = ParseNumber(digits.view());
+    const auto entry = std::find_if(rule_.begin(), rule_.end(),
                                     [number](const auto& condition) { return condition(number); });
-    if (entry != rule.end()) {
-        return static_cast<std::uint16_t>(entry - rule.begin());
+    if (entry != rule_.end()) {
+        return static_cast<std::uint16_t>(entry - rule_.begin());
     }
     boost::format text("Cannot find rule entry with id '%1%' and discriminator value %2%",
                        std::locale::classic());
@@ -71,8 +65,7 @@ std::uint16_t PluralResolver::Resolve(const qor::string16_t& paramName) {
 }
 
 std::uint16_t PluralResolver::GetFormCount() {
-    return rule_ ? static_cast<std::uint16_t>(rule_->size())
-                 : pluralFormRules_->GetEntryCount(ruleId_);
+    return static_cast<std::uint16_t>(rule_.size());
 }
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

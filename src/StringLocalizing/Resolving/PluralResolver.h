@@ -2,7 +2,6 @@
 #pragma once
 
 #include <boost/shared_ptr.hpp>
-#include <optional>
 
 #include "IParamResolver.h"
 #include "IPluralFormRules.h"
@@ -12,23 +11,23 @@ namespace LocalizationManager::StringLocalizing::Resolving {
 
 class PluralResolver : public IPluralResolver {
 public:
+    /// @throws a contract exception for a null pointer; what the rules throw.
     PluralResolver(boost::shared_ptr<IParamResolver> paramResolver,
                    const Model::PluralFormRuleId& ruleId,
-                   boost::shared_ptr<Model::IPluralFormRules> pluralFormRules);
+                   const boost::shared_ptr<Model::IPluralFormRules>& pluralFormRules);
     PluralResolver(const PluralResolver&) = delete;
     PluralResolver& operator=(const PluralResolver&) = delete;
 
     /// @throws boost::bad_lexical_cast when the parameter's text is no 64-bit integer;
     ///         std::logic_error when no entry of the rule holds for it; what the parameter resolver
-    ///         and the rules throw.
-    std::uint16_t Resolve(const qor::string16_t& paramName) override;
+    ///         throws.
+    std::uint16_t Resolve(std::u16string_view paramName) override;
     std::uint16_t GetFormCount() override;
 
 private:
     boost::shared_ptr<IParamResolver> paramResolver_;
     Model::PluralFormRuleId ruleId_;
-    boost::shared_ptr<Model::IPluralFormRules> pluralFormRules_;
-    std::optional<Model::PluralFormRule> rule_;  // empty when it cannot be fetched
+    Model::PluralFormRule rule_;
 };
 
 }  // namespace LocalizationManager::StringLocalizing::Resolving

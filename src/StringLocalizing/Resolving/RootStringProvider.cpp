@@ -4,8 +4,8 @@
 
 namespace LocalizationManager::StringLocalizing::Resolving {
 
-ResolvedText RootStringProvider::GetFallbackString(
-    std::u16string_view key, localization_manager::IResolveListener* /*listener*/) {
+void RootStringProvider::GetFallbackString(std::u16string_view key, IResolveListener* /*listener*/,
+                                           ResolvedText& /*output*/) {
     throw Model::KeyNotFoundException(key);
 }
 

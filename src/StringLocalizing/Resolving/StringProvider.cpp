@@ -18,9 +18,9 @@ StringProvider::StringProvider(
         {"parentStringProvider", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
 }
 
-ResolvedText StringProvider::GetFallbackString(std::u16string_view key,
-                                               localization_manager::IResolveListener* listener) {
-    return parentStringProvider_->GetString(key, listener);
+void StringProvider::GetFallbackString(std::u16string_view key, IResolveListener* listener,
+                                       ResolvedText& output) {
+    parentStringProvider_->GetString(key, listener, output);
 }
 
 bool StringProvider::HasFallbackString(std::u16string_view key) {

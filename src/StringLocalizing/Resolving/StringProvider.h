@@ -13,8 +13,8 @@ public:
                    const std::u16string& name);
 
 protected:
-    ResolvedText GetFallbackString(std::u16string_view key,
-                                   localization_manager::IResolveListener* listener) override;
+    void GetFallbackString(std::u16string_view key, IResolveListener* listener,
+                           ResolvedText& output) override;
     bool HasFallbackString(std::u16string_view key) override;
 
 private:

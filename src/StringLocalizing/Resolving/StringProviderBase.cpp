@@ -3,7 +3,6 @@
 #include <boost/current_function.hpp>
 #include <utility>
 
-#include "Notify.h"
 #include "qor/rtl/contracts/checks.h"
 
 namespace LocalizationManager::StringLocalizing::Resolving {
@@ -21,23 +20,42 @@ StringProviderBase::StringProviderBase(
         resourceDictionary_, {"resourceDictionary", BOOST_CURRENT_FUNCTION, __FILE__, __LINE__});
 }
 
-ResolvedText StringProviderBase::GetString(std::u16string_view key,
-                                           localization_manager::IResolveListener* listener) {
-    const LowerKey buffer = ToLowerCase(key);
-    const std::u16string_view lowerKey(buffer.data(), buffer.size());
-    const auto found = resourceDictionary_->Find(lowerKey);
-    return found ? Resolve(resourceDictionary_->At(*found).value, key, listener)
-                 : GetFallbackString(lowerKey, listener);
+void StringProviderBase::GetString(std::u16string_view key, IResolveListener* listener,
+                                   ResolvedText& output) {
+    if (const auto value = FindAtOnce(key)) {
+        Resolve(*value, key, listener, output);
+    } else {
+        GetByLowerCase(key, listener, output);
+    }
 }
 
-ResolvedText StringProviderBase::Resolve(Model::ValueView value, std::u16string_view key,
-                                         localization_manager::IResolveListener* listener) const {
-    ResolvedText text = keyResolver_->Resolve(value, listener);
-    Notify(listener, localization_manager::ResolveKind::Key, name_, key, text.view());
-    return text;
+void StringProviderBase::GetByLowerCase(std::u16string_view key, IResolveListener* listener,
+                                        ResolvedText& output) {
+    const LowerKey buffer = ToLowerCase(key);
+    const std::u16string_view lowerKey(buffer.data(), buffer.size());
+    if (const auto found = resourceDictionary_->Find(lowerKey)) {
+        Resolve(resourceDictionary_->At(*found).value, key, listener, output);
+    } else {
+        GetFallbackString(lowerKey, listener, output);
+    }
+}
+
+std::optional<Model::ValueView> StringProviderBase::FindAtOnce(std::u16string_view key) const {
+    return lowerCase_.MapsAsciiAsUsual() ? resourceDictionary_->FindInAnyCase(key) : std::nullopt;
+}
+
+void StringProviderBase::Resolve(Model::ValueView value, std::u16string_view key,
+                                 IResolveListener* listener, ResolvedText& output) const {
+    keyResolver_->Resolve(value, listener, output);
+    if (listener != nullptr) {
+        listener->OnResolved(localization_manager::ResolveKind::Key, name_, key, output.view());
+    }
 }
 
 bool StringProviderBase::HasString(std::u16string_view key) {
+    if (FindAtOnce(key)) {
+        return true;
+    }
     const LowerKey buffer = ToLowerCase(key);
     return resourceDictionary_->Find({buffer.data(), buffer.size()}) || HasFallbackString(key);
 }

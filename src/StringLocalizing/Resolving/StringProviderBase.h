@@ -3,6 +3,7 @@
 
 #include <boost/container/small_vector.hpp>
 #include <boost/shared_ptr.hpp>
+#include <optional>
 #include <string>
 
 #include "IKeyResolver.h"
@@ -22,14 +23,14 @@ public:
     StringProviderBase(const StringProviderBase&) = delete;
     StringProviderBase& operator=(const StringProviderBase&) = delete;
 
-    ResolvedText GetString(std::u16string_view key,
-                           localization_manager::IResolveListener* listener) override;
+    void GetString(std::u16string_view key, IResolveListener* listener,
+                   ResolvedText& output) override;
     bool HasString(std::u16string_view key) override;
 
 protected:
     /// @param key  lower-cased.
-    virtual ResolvedText GetFallbackString(std::u16string_view key,
-                                           localization_manager::IResolveListener* listener) = 0;
+    virtual void GetFallbackString(std::u16string_view key, IResolveListener* listener,
+                                   ResolvedText& output) = 0;
 
     /// @param key  as the caller passed it.
     virtual bool HasFallbackString(std::u16string_view key) = 0;
@@ -37,9 +38,14 @@ protected:
 private:
     using LowerKey = boost::container::small_vector<char16_t, 64>;
 
+    /// Finds most keys that are there, before they are lower-cased.
+    std::optional<Model::ValueView> FindAtOnce(std::u16string_view key) const;
+
+    void GetByLowerCase(std::u16string_view key, IResolveListener* listener, ResolvedText& output);
+
     /// @param key  as the caller passed it.
-    ResolvedText Resolve(Model::ValueView value, std::u16string_view key,
-                         localization_manager::IResolveListener* listener) const;
+    void Resolve(Model::ValueView value, std::u16string_view key, IResolveListener* listener,
+                 ResolvedText& output) const;
 
     /// The lower-cased key.
     LowerKey ToLowerCase(std::u16string_view key) const;

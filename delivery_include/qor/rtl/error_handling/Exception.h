@@ -7,6 +7,8 @@
 
 #include "qor/basic_string_t.h"
 
+#undef GetMessage  // <windows.h> makes a macro of the name
+
 namespace qor {
 
 /// An exception that knows where it was raised, what it has to say in UTF-16, and, optionally, the

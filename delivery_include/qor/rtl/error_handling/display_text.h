@@ -1,4 +1,4 @@
-// Framework exceptions in words.
+// Exceptions in words.
 #pragma once
 
 #include <string>
@@ -7,6 +7,11 @@
 #include "qor/rtl/error_handling/Exception.h"
 
 namespace qor {
+
+/// Stands in for a text that is not there.
+constexpr const char* OrNull(const char* text) noexcept {
+    return text != nullptr ? text : "(null)";
+}
 
 /// Name, message and place of one exception.
 /// @throws std::bad_cast when the name or the path has no wide form; std::bad_alloc.

@@ -7,6 +7,7 @@
 #include "qor/InterfaceList.h"
 #include "qor/objptr_t.h"
 #include "qor/result_codes.h"
+#include "qor/rtl/object_model/Object.h"
 
 namespace qor {
 
@@ -21,7 +22,7 @@ public:
         ObjectType* object = nullptr;
         const result_t code = ObjectType::CreateInstance(serviceLocator, &object);
         if (object == nullptr) {
-            return code;
+            return ResultOfCreation(code, object);
         }
         const auto local = objptr_t<ObjectType>::Adopt(object);
         return local->QueryInterface(interfaceId, out);

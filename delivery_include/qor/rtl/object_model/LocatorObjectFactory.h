@@ -3,12 +3,13 @@
 
 #include <new>
 
+#include "qor/BadAllocation.h"
 #include "qor/IAllocator.h"
 #include "qor/IServiceLocator.h"
 #include "qor/ITracer.h"
 #include "qor/objptr_t.h"
 #include "qor/result_codes.h"
-#include "qor/rtl/error_handling/current_exception.h"
+#include "qor/rtl/error_handling/result_from_current_exception.h"
 #include "qor/rtl/objclient/get_service.h"
 #include "qor/rtl/object_model/Object.h"
 
@@ -19,7 +20,8 @@ public:
     /// @param locator  the host's services, passed on to the constructor of the class.
     /// @param out      receives the object with one reference; untouched on failure.
     /// @return `rcOk`; the locator's code when it has no allocator; else the code of the exception
-    ///         that ended the construction, after its text was traced.
+    ///         that ended the construction, after its text was traced. That code is the host's when
+    ///         the host threw one, and need not be a failure: see `ResultOfCreation`.
     template <class Object>
     static result_t Create(IServiceLocator* locator, Object** out) {
         if (locator == nullptr || out == nullptr) {
@@ -56,7 +58,7 @@ private:
     static Object* Construct(IAllocator& allocator, IServiceLocator& locator) {
         void* const memory = allocator.Alloc(sizeof(Object));
         if (memory == nullptr) {
-            throw std::bad_alloc();
+            throw BadAllocation();
         }
         try {
             return new (memory) Object(locator);

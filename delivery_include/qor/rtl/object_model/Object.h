@@ -49,4 +49,9 @@ private:
     std::atomic<std::uint32_t> references_{1};
 };
 
+/// What `CreateInstance` has come to: without an object it has failed, whatever code it answered.
+inline result_t ResultOfCreation(result_t code, const void* object) noexcept {
+    return object == nullptr && !Failed(code) ? rcUnexpected : code;
+}
+
 }  // namespace qor

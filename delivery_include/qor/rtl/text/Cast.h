@@ -11,11 +11,12 @@ namespace qor::text {
 /// Converts `source` to `Target`. Wide to wide and narrow to narrow copy the units. Between wide
 /// and narrow, the narrow side is in the multibyte encoding of the C runtime's current locale.
 /// Framework strings are made in storage of the process heap.
-/// @throws std::bad_alloc; std::bad_cast when a character has no form on the other side.
+/// @throws std::bad_alloc, as `BadAllocation` when the conversion itself had no memory;
+///         std::bad_cast when a character has no form on the other side.
 template <class Target>
-Target Cast(std::u16string_view source);
+Target Cast(std::u16string_view source) = delete;
 template <class Target>
-Target Cast(std::string_view source);
+Target Cast(std::string_view source) = delete;
 
 template <>
 inline string16_t Cast<string16_t>(std::u16string_view source) {

@@ -11,7 +11,8 @@ namespace qor::platform {
 inline constexpr const char* kSharedLibraryPrefix = "lib";
 inline constexpr const char* kSharedLibrarySuffix = ".so";
 
-/// @param path  a file in UTF-8; a bare name is searched where the program's run path points.
+/// @param path  a file in UTF-8; a bare name is searched where the run path points of the program or
+///              library that this is compiled into.
 /// @return a handle to give back with `CloseSharedLibrary`.
 /// @throws std::runtime_error with the loader's message.
 inline void* OpenSharedLibrary(const std::string& path) {

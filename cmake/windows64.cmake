@@ -1,0 +1,4 @@
+# Cross builds for Windows of 64 bits.
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(triplet x86_64-w64-mingw32)
+include(${CMAKE_CURRENT_LIST_DIR}/windows-toolchain.cmake)

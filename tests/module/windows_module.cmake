@@ -1,0 +1,16 @@
+# What the module of Windows exports, and what it needs.
+execute_process(COMMAND ${OBJDUMP} -p ${MODULE} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
+
+function(expect expected text pattern)
+    string(REGEX MATCHALL "${pattern}" found "${text}")
+    list(TRANSFORM found REPLACE "${pattern}" "\\1")
+    list(SORT found)
+    if(NOT found STREQUAL expected)
+        message(FATAL_ERROR "expected ${expected}, got ${found}")
+    endif()
+endfunction()
+
+expect("KERNEL32.dll;msvcrt.dll" "${headers}" "DLL Name: ([^\n]*)")
+string(REGEX REPLACE "^.*Name Pointer. Table\n" "" exports "${headers}")
+string(REGEX REPLACE "\n\n.*$" "" exports "${exports}\n\n")
+expect("qorCanUnloadModule;qorGetObjectFactory" "${exports}" "[[] *[0-9]+. ([^\n]*)")

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# The man page and the completion know every command and option that --help names, and the man page no other.
+# usage: options_test.sh DIRECTORY-OF-THE-TOOL SOURCES-OF-THE-TOOL
+set -euo pipefail
+PATH=$1:$PATH
+page=$2/localize.1
+. "$2/completion/localize"
+
+# Prints what is completed behind the words.
+completed() {
+    COMP_WORDS=("$@")
+    COMP_CWORD=$(($# - 1))
+    _localize 2>/dev/null
+    printf '%s\n' "${COMPREPLY[@]}" | sort
+}
+
+failed=0
+differ() { # WHAT EXPECTED ACTUAL
+    diff <(echo "$2") <(echo "$3") >&2 || { echo "$1 differs" >&2; failed=1; }
+}
+
+commands=$(localize --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\)  *.*/\1/p' | sort)
+[ "$(wc -w <<<"$commands")" -ge 10 ]
+differ "completion of commands" "$commands" "$(completed localize '')"
+differ "man page's commands" "$commands" "$(sed -n 's/^\.SS //p' "$page" | sort)"
+for command in $commands; do
+    options=$(localize "$command" --help | grep -oE '^  (-h,)?--[a-z-]+' | grep -oE -- '--[a-z-]+' | sort)
+    differ "completion of $command" "$options" "$(completed localize "$command" --)"
+    section=$(sed -n "/^\.SS $command\$/,/^\.S[SH]/p" "$page" | sed 's/\\-/-/g' | grep -v '^\.SS' |
+        grep -v -- '--format json$' | grep -oE -- '--[a-z][a-z-]*' | sort -u)
+    differ "man page's section $command" "$(grep -vx -- --help <<<"$options")" "$section"
+done
+differ "completion of cultures" "$(printf 'ar\n')" "$(completed localize get --root tree --culture a)"
+differ "completion of scopes" "$(printf 'settings\n')" "$(completed localize get --root tree --scope s)"
+exit $failed
