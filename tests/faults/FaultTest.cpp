@@ -272,6 +272,11 @@ TEST_P(FaultTest, FilesFail) {
     }
 }
 
+/// Lists of tests would show the bytes of a case otherwise.
+void PrintTo(const Case& tested, std::ostream* out) {
+    *out << tested.name;
+}
+
 INSTANTIATE_TEST_SUITE_P(Requests, FaultTest, testing::ValuesIn(kCases),
                          [](const auto& tested) { return std::string(tested.param.name); });
 
