@@ -1,4 +1,5 @@
 // Files that change under a running program.
+#include <chrono>
 #include <filesystem>
 
 #include "HostTree.h"
@@ -42,6 +43,14 @@ TEST_F(RefreshTest, SeesEveryFileThatCanAnswer) {
               "altx122");
     std::filesystem::remove(other.Root() / "neutral/Locs/main.lt");
     EXPECT_EQ(changed(files, "pt-br/Locs/common.lt", ""), "aax122");
+    // The time alone differs, or the size alone.
+    const std::filesystem::path file = files.Root() / "pt-br/Locs/common.lt";
+    const auto time = std::filesystem::last_write_time(file);
+    std::filesystem::last_write_time(file, time - std::chrono::seconds(2));
+    EXPECT_EQ(texts.Refresh().outcome, Outcome::Replaced);
+    files.Write("pt-br/Locs/common.lt", "Common = 'longer'");
+    std::filesystem::last_write_time(file, time - std::chrono::seconds(2));
+    EXPECT_EQ(texts.Refresh().outcome, Outcome::Replaced);
     // Where nobody looks.
     files.Write("pt/Locs/other.lt", "");
     files.Write("de/Locs/main.lt", "");
