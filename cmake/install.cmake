@@ -36,6 +36,7 @@ write_basic_package_version_file(
 install(FILES
     ${PROJECT_BINARY_DIR}/localization_manager-config.cmake
     ${PROJECT_BINARY_DIR}/localization_manager-config-version.cmake
+    cmake/localization_manager-keys.cmake
     DESTINATION ${package_dir})
 
 file(RELATIVE_PATH LM_PREFIX_FROM_PKGCONFIG
@@ -51,7 +52,7 @@ endforeach()
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 if(TARGET localize)
-    install(TARGETS localize)
+    install(TARGETS localize EXPORT localization_manager)
     install(FILES tools/localize/localize.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
     install(FILES tools/localize/completion/localize
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)

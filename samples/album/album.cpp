@@ -8,19 +8,19 @@
 
 #include "localization_manager/host/CultureChoice.h"
 #include "localization_manager/host/Tree.h"
+#include "localized.h"
 
 namespace host = localization_manager::host;
 
 namespace {
 
-void Show(const host::Texts& texts) {
-    std::cout << texts("Window.Title", {{"album", "Rügen"}}) << '\n';
+void Show(const localized::MainTexts& texts) {
+    std::cout << texts.Window_Title("Rügen") << '\n';
     for (const int photos : {0, 1, 3}) {
-        std::cout << texts("Photos.Count", {{"photos", photos}}) << '\n';
+        std::cout << texts.Photos_Count(photos) << '\n';
     }
-    std::cout << texts.Variant("Share.Invite", "close", {{"friend", "Ada"}, {"album", "Rügen"}})
-              << '\n'
-              << texts("Not.Written.Yet") << '\n';
+    std::cout << texts.Variant("close").Share_Invite("Rügen", "Ada") << '\n'
+              << texts.handle()("Not.Written.Yet") << '\n';  // a key that no compiler knows
 }
 
 }  // namespace
@@ -33,9 +33,8 @@ int main(int argc, char** argv) try {
 
     const host::CultureChoice choice(tree.Cultures(), "en");
     const std::vector<std::string> wanted(argv + (argc > 2 ? 2 : argc), argv + argc);
-    const host::Texts texts =
-        tree.Open("main", wanted.empty() ? choice.ForUser() : choice.For(wanted));
-    if (!texts.State().isUsable) {
+    const localized::MainTexts texts(tree, wanted.empty() ? choice.ForUser() : choice.For(wanted));
+    if (!texts.handle().State().isUsable) {
         return 1;
     }
 

@@ -36,8 +36,9 @@ if(TOOLCHAIN)
     return()  # the rest is not made for other systems yet
 endif()
 
-# The photo album in three languages.
-run(${CMAKE_COMMAND} -S ${SAMPLES}/album -B ${WORK}/album -G ${GENERATOR}
+# The photo album in three languages, beside a tree that may change.
+file(COPY ${SAMPLES}/album ${SAMPLES}/tree DESTINATION ${WORK}/samples)
+run(${CMAKE_COMMAND} -S ${WORK}/samples/album -B ${WORK}/album -G ${GENERATOR}
     -D CMAKE_CXX_COMPILER=${CXX} -D CMAKE_C_COMPILER=${CC} -D CMAKE_PREFIX_PATH=${WORK}/moved)
 run(${CMAKE_COMMAND} --build ${WORK}/album)
 file(GLOB_RECURSE library ${WORK}/moved/*/liblocalization_manager_c.so.1)
@@ -53,6 +54,22 @@ foreach(album ${WORK}/album/album_cpp ${WORK}/album/album_c "${PYTHON};${SAMPLES
     expect("${output}" "Rügen – Vosperel\n0 Fotos\n1 Foto\n3 Fotos\nAda lädt Sie zum Album „Rügen“ ein.\n[Not.Written.Yet]\n")
     set(ENV{LC_ALL} C.UTF-8)
 endforeach()
+
+# What is built follows the keys of a tree, and not its wording.
+set(texts ${WORK}/samples/tree/en/Locs/main.lt)
+file(READ ${texts} written)
+string(REPLACE "invites you" "asks you" edited "${written}")
+file(WRITE ${texts} "${edited}")
+run(${CMAKE_COMMAND} --build ${WORK}/album)
+if(NOT output MATCHES "Looking for changed keys" OR output MATCHES "Building")
+    message(FATAL_ERROR "a change of wording makes the build say\n${output}")
+endif()
+string(REPLACE "Photos.Count" "Photos.Number" edited "${written}")
+file(WRITE ${texts} "${edited}")
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK}/album RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(status EQUAL 0 OR NOT output MATCHES "Photos_Count")
+    message(FATAL_ERROR "without the key the build says\n${output}")
+endif()
 
 # A build without CMake.
 file(GLOB_RECURSE pkgconfig ${WORK}/moved/*/localization_manager_c.pc)

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "check/families.h"
+#include "source/variant_key.h"
 
 namespace lm_check {
 
@@ -14,13 +15,11 @@ bool IsThere(const Subject& subject, std::string_view key) {
            (subject.common != nullptr && subject.common->document.Find(key) != nullptr);
 }
 
-/// Whether a key is one of several cases of another text that is no number, such as a person's gender:
-/// "Invited._female" of "Invited". Which cases there are is up to each language.
+/// Whether a key is a variant of another text. Which ones there are is up to each language.
 template <class Reference>
 bool IsVariant(std::string_view key, const Reference& reference) {
-    const std::size_t dot = key.rfind('.');
-    return dot != std::string_view::npos && dot + 1 < key.size() && key[dot + 1] == '_' &&
-           reference.Find(key.substr(0, dot)) != nullptr;
+    const std::string_view base = lm_source::BaseOfVariant(key);
+    return !base.empty() && reference.Find(base) != nullptr;
 }
 
 /// @param file  that the key belongs into.

@@ -16,6 +16,7 @@ void AddRenameCommand(CLI::App& app, Task& chosen);
 void AddPseudoCommand(CLI::App& app, Task& chosen);
 void AddRulesCommand(CLI::App& app, Task& chosen);
 void AddReportCommand(CLI::App& app, Task& chosen);
+void AddKeysCommand(CLI::App& app, Task& chosen);
 void AddCheckCommands(CLI::App& app, Task& chosen);  // `check` and `accept`
 
 /// In the order in which --help names them.
@@ -32,6 +33,7 @@ inline void AddAllCommands(CLI::App& app, Task& chosen) {
     AddPseudoCommand(app, chosen);
     AddRulesCommand(app, chosen);
     AddReportCommand(app, chosen);
+    AddKeysCommand(app, chosen);
 }
 
 }  // namespace localize

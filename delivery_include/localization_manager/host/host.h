@@ -9,6 +9,7 @@
 #include "localization_manager/host/GuardedManager.h"
 #include "localization_manager/host/HeapAllocator.h"
 #include "localization_manager/host/HostObject.h"
+#include "localization_manager/host/KeyedTexts.h"
 #include "localization_manager/host/Module.h"
 #include "localization_manager/host/ParamMap.h"
 #include "localization_manager/host/ParamResolver.h"
