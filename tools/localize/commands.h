@@ -17,6 +17,7 @@ void AddPseudoCommand(CLI::App& app, Task& chosen);
 void AddRulesCommand(CLI::App& app, Task& chosen);
 void AddReportCommand(CLI::App& app, Task& chosen);
 void AddKeysCommand(CLI::App& app, Task& chosen);
+void AddUsageCommand(CLI::App& app, Task& chosen);
 void AddCheckCommands(CLI::App& app, Task& chosen);  // `check` and `accept`
 
 /// In the order in which --help names them.
@@ -34,6 +35,7 @@ inline void AddAllCommands(CLI::App& app, Task& chosen) {
     AddRulesCommand(app, chosen);
     AddReportCommand(app, chosen);
     AddKeysCommand(app, chosen);
+    AddUsageCommand(app, chosen);
 }
 
 }  // namespace localize

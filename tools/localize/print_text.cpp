@@ -2,6 +2,7 @@
 #include <string>
 #include <string_view>
 
+#include "counted.h"
 #include "print_findings.h"
 #include "request_groups.h"
 
@@ -90,10 +91,6 @@ void PrintFinding(std::ostream& output, const Report& report, const Finding& fin
     }
 }
 
-std::string Number(std::size_t count, const char* one, const char* several) {
-    return std::to_string(count) + ' ' + (count == 1 ? one : several);
-}
-
 }  // namespace
 
 void PrintText(std::ostream& output, const Report& report, const FindingPaths& paths) {
@@ -101,17 +98,17 @@ void PrintText(std::ostream& output, const Report& report, const FindingPaths& p
         PrintFinding(output, report, finding, paths);
     }
     const Counts counts = CountsOf(report);
-    output << Number(counts.errors, "error", "errors") << ", "
-           << Number(counts.warnings, "warning", "warnings");
+    output << Counted(counts.errors, "error", "errors") << ", "
+           << Counted(counts.warnings, "warning", "warnings");
     if (report.suppressed != 0) {
         output << ", " << report.suppressed << " suppressed";
     }
     if (report.baselined != 0) {
         output << ", " << report.baselined << " in the baseline";
     }
-    output << " (" << Number(report.files, "file", "files") << ", "
-           << Number(report.cultures.size(), "culture", "cultures") << ", "
-           << Number(report.scopes.size(), "scope", "scopes") << ", reference " << report.reference
+    output << " (" << Counted(report.files, "file", "files") << ", "
+           << Counted(report.cultures.size(), "culture", "cultures") << ", "
+           << Counted(report.scopes.size(), "scope", "scopes") << ", reference " << report.reference
            << ")\n";
 }
 
