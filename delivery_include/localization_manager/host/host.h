@@ -4,6 +4,7 @@
 
 #include "localization_manager/host/AtCallback.h"
 #include "localization_manager/host/CultureChoice.h"
+#include "localization_manager/host/DerivedParam.h"
 #include "localization_manager/host/ErrorListener.h"
 #include "localization_manager/host/GuardedLocalizer.h"
 #include "localization_manager/host/GuardedManager.h"
