@@ -128,7 +128,7 @@ private:
         std::optional<TextProblem> problem;
         {
             const auto generation = tree_->Read();
-            detail::Call call{params, {}, {}};
+            detail::Call call{params, nullptr, {}, {}};
             const detail::CallScope scope(tree_->calls(), call);
             detail::StackMemory memory;
             qor::string16_t text(memory.Allocator());
@@ -148,6 +148,7 @@ private:
                                     qor::string16_t& text) const {
         for (std::size_t i = 0; i < sources.size(); ++i) {
             ILocalizer& localizer = *sources[i].localizer;
+            call.conventions = sources[i].conventions.get();
             for (const std::string_view key : keys) {
                 const qor::string16_t key16(detail::SmallText(key).view(), memory.Allocator());
                 // Where the text is likely to be found, it is asked for right away.
@@ -189,11 +190,8 @@ private:
 
     std::string WhatIsWrong(const detail::Call& call, std::string_view key,
                             std::size_t culture) const {
-        if (call.unknownParam.empty()) {
-            return call.report;
-        }
-        return Place(key, culture) + ": it asks for $" + call.unknownParam +
-               ", the call has: " + call.params.Names();
+        return call.paramProblem.empty() ? call.report
+                                         : Place(key, culture) + ": " + call.paramProblem;
     }
 
     /// The beginning of a message.

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "localization_manager/host/Conventions.h"
 #include "localization_manager/host/Report.h"
 #include "localization_manager/host/TextProblem.h"
 #include "localization_manager/host/default_module_path.h"
@@ -23,6 +25,12 @@ struct TreeSettings {
     /// on the thread that works with the texts, from several at once if the host has several; should
     /// not throw.
     Report report;
+
+    /// Gives the conventions of a culture, for texts that ask for `$count.number` where a call has "count": what
+    /// `UseIcu` makes, or the host's own function. Called once for each culture when texts in it are
+    /// opened, and must not use the tree; what it throws, the opening throws. Null answers stand for none.
+    /// @param languageTag  the culture's language and region: "pt-br", "zh-Hant-hk".
+    std::function<std::shared_ptr<const Conventions>(const std::string& languageTag)> conventions;
 
     /// File of the module, UTF-8.
     std::string module = DefaultModulePath();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "localization_manager/host/AtCallback.h"
+#include "localization_manager/host/Conventions.h"
 #include "localization_manager/host/CultureChoice.h"
 #include "localization_manager/host/DerivedParam.h"
 #include "localization_manager/host/ErrorListener.h"

@@ -2,6 +2,10 @@
 #pragma once
 
 #include <algorithm>
+#include <exception>
+#include <new>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -31,14 +35,15 @@ public:
         if (call == nullptr) {
             return qor::rcNotFound;
         }
-        for (const Param& param : call->params) {
-            if (Names(param, name.view())) {
-                param.Write(result);
-                return qor::rcOk;
+        if (const Param* const param = Find(call->params, name.view())) {
+            param->Write(result);
+            if (call->conventions != nullptr && !param->IsNumber()) {
+                call->conventions->Isolate(result);
             }
+            return qor::rcOk;
         }
-        call->unknownParam = ToUtf8(name);
-        return qor::rcNotFound;
+        call->paramProblem = WriteDerived(*call, name, result);
+        return call->paramProblem.empty() ? qor::rcOk : qor::rcNotFound;
     } catch (...) {  // only memory can run out, and no exception should cross into the module
         return qor::rcOutOfMemory;
     }
@@ -50,11 +55,42 @@ private:
     }
 
     /// Names of parameters are ASCII in every text that can be read.
-    static bool Names(const Param& param, std::u16string_view name) noexcept {
-        const std::string_view own = param.name();
-        return std::equal(
-            own.begin(), own.end(), name.begin(), name.end(),
-            [](char left, char16_t right) { return static_cast<unsigned char>(left) == right; });
+    /// @return null when there is none of that name.
+    static const Param* Find(const Params& params, std::u16string_view name) noexcept {
+        const Param* const found =
+            std::find_if(params.begin(), params.end(), [name](const Param& param) {
+                const std::string_view own = param.name();
+                return std::equal(own.begin(), own.end(), name.begin(), name.end(),
+                                  [](char left, char16_t right) {
+                                      return static_cast<unsigned char>(left) == right;
+                                  });
+            });
+        return found != params.end() ? found : nullptr;
+    }
+
+    /// Answers a name that the call does not have, but perhaps the one that it is derived from.
+    /// @return why it cannot; empty when it can.
+    static std::string WriteDerived(const Call& call, const qor::string16_t& name16,
+                                    qor::string16_t& result) {
+        const std::string name = ToUtf8(name16);
+        const std::optional<DerivedParam> derived = DerivedParam::Split(name);
+        const Param* const param =
+            derived ? Find(call.params, name16.view().substr(0, derived->param.size())) : nullptr;
+        if (param == nullptr) {
+            return "it asks for $" + name + ", the call has: " + call.params.Names();
+        }
+        if (call.conventions == nullptr) {
+            return "it asks for $" + name + ", and TreeSettings::conventions is not set";
+        }
+        param->Write(result);
+        try {
+            call.conventions->Write(derived->format, result);
+            return {};
+        } catch (const std::bad_alloc&) {
+            throw;
+        } catch (const std::exception& error) {
+            return "it asks for $" + name + ": " + error.what();
+        }
     }
 };
 

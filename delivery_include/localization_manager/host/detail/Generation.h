@@ -2,11 +2,13 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "localization_manager/ILocalizationManager.h"
 #include "localization_manager/ILocalizer.h"
+#include "localization_manager/host/Conventions.h"
 #include "qor/objptr_t.h"
 
 namespace localization_manager::host::detail {
@@ -16,6 +18,7 @@ struct Generation {
     struct Source {
         qor::objptr_t<ILocalizer> localizer;
         std::string mistake;  // the module's report when the sources cannot be used
+        std::shared_ptr<const Conventions> conventions;  // null for none
     };
 
     /// By the name of the culture: a manager shares the common texts of one culture only.

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <exception>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <set>
@@ -14,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "localization_manager/host/Conventions.h"
 #include "localization_manager/host/ErrorListener.h"
 #include "localization_manager/host/Module.h"
 #include "localization_manager/host/Refreshed.h"
@@ -207,7 +209,7 @@ private:
     }
 
     /// Makes the localizers of a selection and has them read their sources.
-    void AddTexts(Generation& generation, const Selection& selection) const {
+    void AddTexts(Generation& generation, const Selection& selection) {
         std::vector<Generation::Source> sources;
         for (std::size_t i = 0; i < selection.names.size(); ++i) {
             auto& manager = generation.managers[selection.names[i]];
@@ -223,9 +225,24 @@ private:
                 call, "cannot use scope '" + selection.scope + "'");
             source.localizer->HasString(u"_");  // whatever the key: the sources are read for it
             source.mistake = std::move(call.report);
+            source.conventions = ConventionsOf(selection.isoNames[i], selection.cultures[i]);
             sources.push_back(std::move(source));
         }
         generation.texts.push_back(std::move(sources));
+    }
+
+    /// A variant is the program's own, and no convention depends on it.
+    std::shared_ptr<const Conventions> ConventionsOf(std::string tag, const Culture& culture) {
+        if (!settings_.conventions) {
+            return nullptr;
+        }
+        if (!culture.region.empty()) {
+            tag.append("-").append(culture.region.view());
+        }
+        const auto known = conventions_.find(tag);
+        return known != conventions_.end()
+                   ? known->second
+                   : conventions_.emplace(tag, settings_.conventions(tag)).first->second;
     }
 
     /// The mistakes of sources that had none before.
@@ -254,6 +271,7 @@ private:
     std::mutex turn_;  // for what follows, but for reading
     std::vector<Selection> selections_;
     FileStamps stamps_;
+    std::map<std::string, std::shared_ptr<const Conventions>> conventions_;  // by language tag
     Current<Generation> current_;
 };
 
