@@ -34,6 +34,7 @@ configure_package_config_file(
 write_basic_package_version_file(
     localization_manager-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
+    cmake/host_icu.cmake
     ${PROJECT_BINARY_DIR}/localization_manager-config.cmake
     ${PROJECT_BINARY_DIR}/localization_manager-config-version.cmake
     cmake/localization_manager-keys.cmake
