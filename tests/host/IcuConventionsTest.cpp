@@ -107,7 +107,9 @@ TEST_F(IcuConventionsTest, TellsWhichValueIsWrongAndWhatWouldBeRight) {
 
 TEST_F(IcuConventionsTest, IsolatesTextsThatRunAgainstTheCulture) {
     const std::string hebrew = "1 \u05D0b";
-    const auto isolated = [](const std::string& text) { return "\u2068" + text + "\u2069"; };
+    const auto isolated = [](const std::string& text) {
+        return host::ToUtf8(u"\u2068" + host::ToUtf16(text) + u"\u2069");
+    };
     const auto show = [this](const char* culture, const host::Param& x) {
         return Show(culture, "'.' + $x + '.'", x);
     };
@@ -119,7 +121,8 @@ TEST_F(IcuConventionsTest, IsolatesTextsThatRunAgainstTheCulture) {
         EXPECT_EQ(show("ar", {"x", noLetters}), '.' + std::string(noLetters) + '.');
     }
     EXPECT_EQ(show("ar", {"x", -5}), ".-5.");
-    EXPECT_EQ(Show("ar", "$x.currency", {"x", "5 USD"}).find("\u2068"), std::string::npos);
+    EXPECT_EQ(Show("ar", "$x.currency", {"x", "5 USD"}).find(host::ToUtf8(u"\u2068")),
+              std::string::npos);
     options.isolates = false;
     EXPECT_EQ(show("ar", {"x", "Ada"}), ".Ada.");
 }
@@ -139,10 +142,10 @@ TEST_F(IcuConventionsTest, TwoThreadsShareOneCulture) {
             const std::string grouped = n.substr(0, 1) + '.' + n.substr(1);
             const std::string text =
                 texts("T", {{"n", i}, {"p", n + ' ' + codes[i % 4]}, {"t", 86'400 * (i % 2)}});
-            wrong += text != grouped + ' ' + grouped + ",00\u00A0" + signs[i % 4] +
-                                 (i % 2 == 0 ? " 01" : " 02") + ".01.1970 01:00"
-                         ? 1
-                         : 0;
+            std::string expected = grouped;
+            expected.append(" ").append(grouped).append(",00\u00A0").append(signs[i % 4]);
+            expected.append(i % 2 == 0 ? " 01" : " 02").append(".01.1970 01:00");
+            wrong += text != expected ? 1 : 0;
         }
     };
     std::thread other(run, 1000);

@@ -81,7 +81,7 @@ private:
     static ::icu::Locale LocaleOf(std::string tag) {
         while (!tag.empty()) {
             UErrorCode status = U_ZERO_ERROR;
-            const ::icu::Locale locale = ::icu::Locale::forLanguageTag(tag, status);
+            ::icu::Locale locale = ::icu::Locale::forLanguageTag(tag, status);
             if (U_SUCCESS(status) && locale.isBogus() == 0) {
                 return locale;
             }
