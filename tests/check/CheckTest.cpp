@@ -70,9 +70,10 @@ TEST(Check, CallsAnErrorWhatMakesARequestFailAndNothingElse) {
 }
 
 /// Parts of files, put where they do not belong.
-constexpr const char* kParts[] = {"'",  "{",        "}",        "+",    ",",  "=",    "$count",
-                                  "\n", "{$count:", "App.Name", " ; x", "\\", "\xE4", "Greeting",
-                                  "$x", "A.B = ",   "n==1;",    "'x'",  "%",  "1",    ":"};
+constexpr const char* kParts[] = {
+    "'",         "{",        "}",     "+",   ",",    "=",        "$count", "\n",
+    "{$count:",  "App.Name", " ; x",  "\\",  "\xE4", "Greeting", "$x",     ".number",
+    "{$x.date:", "A.B = ",   "n==1;", "'x'", "%",    "1",        ":"};
 
 /// Puts some parts into a file, or takes some bytes out of it.
 std::string Damage(std::string text, std::mt19937& random) {

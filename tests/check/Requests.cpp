@@ -13,6 +13,7 @@
 #include "IResourceProvider.h"
 #include "LocFileParser.h"
 #include "ResourceProcessingPipeline.h"
+#include "localization_manager/host/DerivedParam.h"
 #include "tree/Tree.h"
 #include "tree/path_text.h"
 
@@ -25,16 +26,19 @@ using namespace LocalizationManager::StringLocalizing;
 using localization_manager::Culture;
 using Names = std::set<std::u16string>;
 
-/// Supplies a number for every parameter that is known, and remembers what is asked for.
+/// Supplies a number for every parameter that is known, written for people where its name says so, and
+/// remembers what is asked for.
 class Params : public Resolving::IParamResolver {
 public:
     void Resolve(std::u16string_view name, Resolving::ResolvedText& output) override {
-        const std::u16string text(name);
-        asked.insert(text);
-        if (!isOpen && known.count(text) == 0) {
+        const std::string asName(name.begin(), name.end());  // of ASCII
+        const auto supplied = localization_manager::host::SuppliedParam(asName);
+        const std::u16string param(name.substr(0, supplied.size()));
+        asked.insert(param);
+        if (!isOpen && known.count(param) == 0) {
             throw std::runtime_error("unknown parameter");
         }
-        output.Append(FromNumber(number));
+        output.Append(FromNumber(number) + (param != name ? u",0" : u""));
     }
 
     static std::u16string FromNumber(int value) { return Text::FromUtf8(std::to_string(value)); }

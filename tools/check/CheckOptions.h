@@ -1,14 +1,17 @@
 // What a check is asked for.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "check/Rule.h"
+#include "localization_manager/host/DerivedParam.h"
 
 namespace lm_check {
 
@@ -27,6 +30,13 @@ struct CheckOptions {
     bool IsOn(Rule rule) const {
         const auto found = switches.find(rule);
         return found != switches.end() ? found->second : InfoOf(rule).isOn;
+    }
+
+    /// Whether the program supplies a parameter everywhere; a derived name says so of the one that it stands for.
+    bool Supplies(std::string_view param) const {
+        return std::any_of(params.begin(), params.end(), [param](const std::string& name) {
+            return localization_manager::host::SuppliedParam(name) == param;
+        });
     }
 
     /// Whether nothing is left out, so that what is found nowhere is nowhere.

@@ -6,12 +6,14 @@
 #include "TextCode.h"
 #include "check/FormWalk.h"
 #include "expansion_limits.h"
+#include "localization_manager/host/DerivedParam.h"
 
 namespace lm_check {
 
 using lm_source::Entry;
 using lm_source::Operand;
 using lm_source::OperandKind;
+using localization_manager::host::SuppliedParam;
 using LocalizationManager::StringLocalizing::Compiling::kMaxExpandedDictionary;
 using LocalizationManager::StringLocalizing::Compiling::kMaxExpandedValue;
 using LocalizationManager::StringLocalizing::Model::kLengthUnits;
@@ -190,7 +192,7 @@ void Expansion::AddParams(const Entry& entry, Text& text) {
     auto visit = [&](const Operand& operand, bool isLive, std::size_t /*depth*/) {
         if (isLive &&
             (operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm)) {
-            members.push_back(names_->NameOf(document_->Name(operand)));
+            members.push_back(names_->NameOf(SuppliedParam(document_->Name(operand))));
         }
     };
     walk.Operands(document_->ValueOf(entry), visit);

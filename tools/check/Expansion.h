@@ -18,7 +18,7 @@ class Expansion {
 public:
     /// What a text comes to.
     struct Text {
-        NameSets::Set params = NameSets::kEmpty;  // that a request may ask for
+        NameSets::Set params = NameSets::kEmpty;  // that the program is to supply
         std::uint32_t size = 0;                   // in units, as the engine keeps it; or more
         bool isVisited = false;
         bool isComplete = true;  // else a mistake keeps part of it unknown

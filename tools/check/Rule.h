@@ -23,6 +23,7 @@ enum class Rule : std::uint8_t {
     RuleSyntax,
     RuleGap,
     UnknownParameter,
+    FormattedForm,
     RuleUnproven,
     ParameterDropped,
     ParameterCase,

@@ -26,7 +26,7 @@ void CheckReferences(const Subject& subject, Collector& out);
 /// form-count, dead-form, hidden-number.
 void CheckForms(const Subject& subject, Collector& out);
 
-/// unknown-parameter, parameter-dropped, parameter-case.
+/// unknown-parameter, parameter-dropped, parameter-case, formatted-form.
 void CheckParameters(const Subject& subject, Collector& out);
 
 /// missing-key, extra-key, outer-space, unchanged, stale.

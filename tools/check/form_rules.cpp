@@ -4,6 +4,7 @@
 #include "CultureNames.h"
 #include "check/FormWalk.h"
 #include "check/families.h"
+#include "localization_manager/host/DerivedParam.h"
 
 namespace lm_check {
 
@@ -13,6 +14,7 @@ using lm_source::Document;
 using lm_source::Entry;
 using lm_source::Operand;
 using lm_source::OperandKind;
+using localization_manager::host::SuppliedParam;
 
 namespace {
 
@@ -25,10 +27,10 @@ std::string NameOf(const Subject& subject) {
                              : std::string("the language's rule");
 }
 
-/// Whether a number is put into a form by a parameter.
+/// Whether a number is put into a form by a parameter, plain or written for people.
 bool Shows(const Document& document, lm_source::Value form, std::string_view param) {
     for (const Operand& operand : form) {
-        if (operand.kind == OperandKind::Param && document.Name(operand) == param) {
+        if (operand.kind == OperandKind::Param && SuppliedParam(document.Name(operand)) == param) {
             return true;
         }
         for (const lm_source::Value inner : FormsOf(operand)) {

@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
+#include "check/FormWalk.h"
 #include "check/families.h"
+#include "localization_manager/host/DerivedParam.h"
 #include "tree/ascii_case.h"
 
 namespace lm_check {
@@ -11,6 +14,8 @@ using lm_source::Entry;
 using lm_source::Operand;
 using lm_source::OperandKind;
 using lm_tree::LowerAscii;
+using localization_manager::host::DerivedParam;
+using localization_manager::host::SuppliedParam;
 
 namespace {
 
@@ -46,8 +51,7 @@ private:
     void AddUnknown(const TextFile& file, const Expansion& expansion, const Entry& entry,
                     const std::string& name, const NameSets::Members& dropped,
                     const NameSets::Members& known) {
-        const auto& params = subject_.plan.options.params;
-        if (params.count(name) != 0) {
+        if (subject_.plan.options.Supplies(name)) {
             return;
         }
         std::string message = "the reference text has no parameter $" + name;
@@ -99,7 +103,7 @@ private:
         const Document& document = file.document;
         for (const Operand& operand : document.OperandsOf(entry)) {
             if ((operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm) &&
-                document.Name(operand) == name) {
+                SuppliedParam(document.Name(operand)) == name) {
                 const Range range = document.NameRange(operand);
                 return {range.begin - 1, range.end};
             }
@@ -132,7 +136,7 @@ Spellings SpellingsOf(const Document& document) {
     for (const Entry& entry : document.Entries()) {
         for (const Operand& operand : document.OperandsOf(entry)) {
             if (operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm) {
-                ++uses[document.Name(operand)];
+                ++uses[SuppliedParam(document.Name(operand))];
             }
         }
     }
@@ -149,7 +153,7 @@ void AddCase(const Subject& subject, const std::string& name, const std::string&
     for (const Entry& entry : document.Entries()) {
         for (const Operand& operand : document.OperandsOf(entry)) {
             if ((operand.kind == OperandKind::Param || operand.kind == OperandKind::PluralForm) &&
-                document.Name(operand) == name) {
+                SuppliedParam(document.Name(operand)) == name) {
                 const Range range = document.NameRange(operand);
                 out.Add(Rule::ParameterCase, subject.Source(), {range.begin - 1, range.end},
                         document.Key(entry), subject.requests,
@@ -168,15 +172,47 @@ void CheckCase(const Subject& subject, Collector& out) {
     if (!out.Wants(Rule::ParameterCase)) {
         return;
     }
-    const auto& supplied = subject.plan.options.params;
     for (const auto& [lower, spellings] : SpellingsOf(subject.file.document)) {
         const auto usual =
             std::max_element(spellings.begin(), spellings.end(),
                              [](const auto& l, const auto& r) { return l.second < r.second; });
         for (const auto& [name, count] : spellings) {
-            if (name != usual->first && (subject.isReference || supplied.count(name) != 0)) {
+            if (name != usual->first &&
+                (subject.isReference || subject.plan.options.Supplies(name))) {
                 AddCase(subject, name, usual->first, out);
             }
+        }
+    }
+}
+
+/// What is written for people is a number by chance: "3" is one, "1.234" is not.
+void CheckChoices(const Subject& subject, Collector& out) {
+    const Document& document = subject.file.document;
+    FormWalk walk(document, subject.rule.Rule());
+    for (const Entry& entry : document.Entries()) {
+        auto visit = [&](const Operand& operand, bool isLive, std::size_t /*depth*/) {
+            const auto derived = operand.kind == OperandKind::PluralForm
+                                     ? DerivedParam::Split(document.Name(operand))
+                                     : std::nullopt;
+            if (!derived) {
+                return;
+            }
+            const std::string name(document.Name(operand));
+            const Range written = document.NameRange(operand);
+            const Range range{written.begin - 1, written.end};
+            std::string message = "$" + name +
+                                  " is a text for people, which chooses no form: write {$" +
+                                  std::string(derived->param) + ": ...}, and $" + name + " inside";
+            if (isLive) {
+                out.Add(Rule::FormattedForm, subject.Source(), range, document.Key(entry),
+                        subject.requests, std::move(message));
+            } else {
+                out.AddWarning(Rule::FormattedForm, subject.Source(), range, document.Key(entry),
+                               subject.requests, std::move(message));
+            }
+        };
+        if (!entry.isFaulty) {
+            walk.Operands(document.ValueOf(entry), visit);
         }
     }
 }
@@ -185,6 +221,7 @@ void CheckCase(const Subject& subject, Collector& out) {
 
 void CheckParameters(const Subject& subject, Collector& out) {
     CheckCase(subject, out);
+    CheckChoices(subject, out);
     if (subject.isReference) {
         return;
     }

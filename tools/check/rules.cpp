@@ -32,6 +32,8 @@ const std::vector<RuleInfo>& AllRules() {
         {Rule::RuleGap, "rule-gap", kError, true, "A plural rule file leaves a number out"},
         {Rule::UnknownParameter, "unknown-parameter", kError, true,
          "A text asks for a parameter that the reference text does not have"},
+        {Rule::FormattedForm, "formatted-form", kError, true,
+         "A value that is written for people chooses a form"},
         {Rule::RuleUnproven, "rule-unproven", kWarning, true,
          "Whether a plural rule file leaves a number out takes too long to prove"},
         {Rule::ParameterDropped, "parameter-dropped", kWarning, true,

@@ -48,7 +48,8 @@ ModuleTexts::ModuleTexts(const std::string& module, const lm_tree::Tree& tree,
                                  host::Make<host::ErrorListener>(report)),
                 "cannot use the localisation tree");
     params_ = host::Make<host::ParamResolver>([this](const std::string& name) {
-        return numbers_.count(name) != 0 ? std::to_string(number_) : "\u2039" + name + "\u203A";
+        const std::string supplied(host::SuppliedParam(name));
+        return numbers_.count(supplied) != 0 ? std::to_string(number_) : "\u2039" + name + "\u203A";
     });
 }
 

@@ -1,6 +1,8 @@
 #include "create_localizer.h"
 
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 
@@ -27,12 +29,21 @@ lm::Culture CultureOf(const host::Module& module, qor::IServiceLocator& services
     return culture;
 }
 
-qor::objptr_t<host::ParamMap> ParamsOf(const RequestSettings& settings) {
-    auto params = host::Make<host::ParamMap>();
+/// Nothing is written by a culture's conventions here: $count.number is what is given for count, unless it
+/// is given itself.
+qor::objptr_t<host::ParamResolver> ParamsOf(const RequestSettings& settings) {
+    std::map<std::string, std::string> given;
     for (const auto& [name, text] : settings.params) {
-        params->Set(name, text);
+        given[name] = text;
     }
-    return params;
+    return host::Make<host::ParamResolver>(
+        [given = std::move(given)](const std::string& name) -> std::optional<std::string> {
+            auto found = given.find(name);
+            if (found == given.end()) {
+                found = given.find(std::string(host::SuppliedParam(name)));
+            }
+            return found != given.end() ? std::optional(found->second) : std::nullopt;
+        });
 }
 
 /// The module would report a broken contract.

@@ -91,7 +91,7 @@ void AddParams(CLI::App& get, RequestSettings& settings) {
                    AddParam(settings, param);
                }
            },
-           "Text of an external parameter; may be repeated")
+           "Text of an external parameter, also for names such as NAME.number; may be repeated")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
 }
