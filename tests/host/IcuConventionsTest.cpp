@@ -121,8 +121,8 @@ TEST_F(IcuConventionsTest, IsolatesTextsThatRunAgainstTheCulture) {
         EXPECT_EQ(show("ar", {"x", noLetters}), '.' + std::string(noLetters) + '.');
     }
     EXPECT_EQ(show("ar", {"x", -5}), ".-5.");
-    EXPECT_EQ(Show("ar", "$x.currency", {"x", "5 USD"}).find(host::ToUtf8(u"\u2068")),
-              std::string::npos);
+    EXPECT_EQ(host::ToUtf16(Show("ar", "$x.currency", {"x", "5 USD"})).find(u'\u2068'),
+              std::u16string::npos);
     options.isolates = false;
     EXPECT_EQ(show("ar", {"x", "Ada"}), ".Ada.");
 }

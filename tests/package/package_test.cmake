@@ -71,6 +71,15 @@ if(status EQUAL 0 OR NOT output MATCHES "Photos_Count")
     message(FATAL_ERROR "without the key the build says\n${output}")
 endif()
 
+# Numbers, where ICU is found.
+if(HAS_ICU)
+    run(${CMAKE_COMMAND} -S ${SAMPLES}/numbers -B ${WORK}/numbers -G ${GENERATOR} ${finding})
+    run(${CMAKE_COMMAND} --build ${WORK}/numbers)
+    run(${WORK}/numbers/sample_numbers ${SAMPLES}/numbers/tree de)
+    string(REPLACE " " " " output "${output}")
+    expect("${output}" "Rügen (2024), letztes Foto am 02.05.2024 um 00:30\n12.345 Fotos\n82 % des Speichers sind belegt. Doppelt so viel für 4,50 € im Monat, bis 31.12.2025\n")
+endif()
+
 # A build without CMake.
 file(GLOB_RECURSE pkgconfig ${WORK}/moved/*/localization_manager_c.pc)
 get_filename_component(directory ${pkgconfig} DIRECTORY)

@@ -3,6 +3,7 @@
 
 #include <unicode/currunit.h>
 #include <unicode/locid.h>
+#include <unicode/nounit.h>
 #include <unicode/numberformatter.h>
 #include <unicode/ucurr.h>
 #include <unicode/unistr.h>
