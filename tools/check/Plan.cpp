@@ -7,19 +7,11 @@
 #include "FromUtf8.h"
 #include "plural/parse_rule.h"
 #include "source/Encoding.h"
-#include "tree/usual_reference.h"
+#include "tree/choose_cultures.h"
 
 namespace lm_check {
 
 namespace {
-
-lm_tree::CultureName CultureOrThrow(const std::string& name) {
-    auto culture = lm_tree::CultureOfName(name);
-    if (!culture) {
-        throw std::invalid_argument("unknown culture '" + name + "'");
-    }
-    return std::move(*culture);
-}
 
 /// A tree that names no culture answers all languages alike; one stands for all.
 constexpr const char* kAnyCulture = "en";
@@ -27,8 +19,9 @@ constexpr const char* kAnyCulture = "en";
 }  // namespace
 
 Plan::Plan(const lm_tree::Tree& treeToJudge, const CheckOptions& checkOptions)
-    : tree(treeToJudge), options(checkOptions) {
-    ChooseReference();
+    : tree(treeToJudge),
+      options(checkOptions),
+      reference(ChooseReference(tree, options.reference)) {
     ChooseCultures();
     ChooseScopes();
     ChooseRules();
@@ -43,32 +36,16 @@ Plan::Plan(const lm_tree::Tree& treeToJudge, const CheckOptions& checkOptions)
     }
 }
 
-void Plan::ChooseReference() {
-    if (options.reference.empty()) {
-        reference = CultureOrThrow(lm_tree::UsualReference(tree));
-        return;
-    }
-    reference = CultureOrThrow(options.reference);
-    if (!tree.HasDirectory(reference.name)) {
-        throw std::invalid_argument("the tree has no directory '" + reference.name +
-                                    "' for the reference");
-    }
-}
-
 void Plan::ChooseCultures() {
     cultures = tree.Cultures();
     if (!options.cultures.empty()) {
         cultures.clear();
         for (const std::string& name : options.cultures) {
-            lm_tree::CultureName culture = CultureOrThrow(name);
-            if (!culture.culture) {
-                throw std::invalid_argument("'" + name + "' is no culture that a program asks for");
-            }
-            cultures.push_back(std::move(culture));
+            cultures.push_back(lm_tree::RequestedCulture(name));
         }
     }
     if (cultures.empty()) {
-        cultures.push_back(CultureOrThrow(kAnyCulture));
+        cultures.push_back(lm_tree::NamedCulture(kAnyCulture));
     }
     const auto byName = [](const auto& left, const auto& right) { return left.name < right.name; };
     std::sort(cultures.begin(), cultures.end(), byName);

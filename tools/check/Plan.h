@@ -63,7 +63,6 @@ public:
     }
 
 private:
-    void ChooseReference();
     void ChooseCultures();
     void ChooseScopes();
     void ChooseRules();

@@ -2,10 +2,10 @@
 #include <iostream>
 #include <memory>
 
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/add_missing.h"
 #include "edit/write_whole.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
@@ -22,9 +22,9 @@ struct AddMissingSettings {
 bool AddMissing(const AddMissingSettings& settings) {
     const auto root = lm_tree::PathOf(settings.root);
     const lm_tree::Tree tree(root, {});
-    const lm_tree::CultureName culture = RequestedCulture(settings.culture);
-    const auto missing =
-        lm_edit::AddMissing(tree, culture, ReferenceOr(tree, settings.reference), settings.scopes);
+    const lm_tree::CultureName culture = lm_tree::RequestedCulture(settings.culture);
+    const auto missing = lm_edit::AddMissing(
+        tree, culture, ChooseReference(tree, settings.reference), settings.scopes);
     for (const lm_edit::FileChange& change : missing.changes) {
         lm_edit::WriteInTree(root, change.path, change.bytes);
         std::cout << lm_tree::Utf8Of(change.path) << ": " << change.count

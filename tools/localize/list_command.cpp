@@ -6,14 +6,13 @@
 
 #include "Answers.h"
 #include "UsageError.h"
-#include "choose_cultures.h"
 #include "commands.h"
 #include "request_options.h"
 #include "source/Document.h"
 #include "source/mistake_text.h"
 #include "tree/Tree.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
-#include "tree/usual_reference.h"
 
 namespace localize {
 
@@ -69,12 +68,11 @@ public:
 
     /// @return whether no file has a mistake.
     bool Print() {
-        auto cultures = settings_.cultures;
-        if (cultures.empty()) {
-            cultures.push_back(lm_tree::UsualReference(tree_));
+        for (const std::string& name : settings_.cultures) {
+            PrintCulture(lm_tree::NamedCulture(name));
         }
-        for (const std::string& name : cultures) {
-            PrintCulture(CultureOrThrow(name));
+        if (settings_.cultures.empty()) {
+            PrintCulture(ChooseReference(tree_, ""));
         }
         if (settings_.json) {
             std::cout << (isFirst_ ? kBegin : "\n") << "]}\n";

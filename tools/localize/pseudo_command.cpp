@@ -1,14 +1,15 @@
 // `pseudo` makes texts that look translated.
 #include <iostream>
 #include <memory>
+#include <stdexcept>
 
 #include "TreeLayout.h"
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/pseudo.h"
 #include "edit/read_document.h"
 #include "edit/write_whole.h"
 #include "plural/culture_rule.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
@@ -28,17 +29,17 @@ class Pseudo {
 public:
     explicit Pseudo(const PseudoSettings& settings)
         : tree_(lm_tree::PathOf(settings.root), {}),
-          source_(RequestedCulture(settings.from)),
-          to_(lm_tree::PathOf(settings.to)) {}
+          source_(lm_tree::RequestedCulture(settings.from)),
+          to_(lm_tree::PathOf(settings.to)) {
+        RequireTexts();
+    }
 
     void Write(const char* region, lm_edit::PseudoStyle style) const {
         const auto language = source_.culture->language;
         const auto target = lm_tree::CultureOf(language, region);
-        std::vector<std::string> scopes = tree_.ScopesOf(source_);
-        scopes.insert(scopes.begin(), lm_tree::CommonScope());
         const fs::path texts =
             to_ / lm_tree::PathOf(target.directories.front()) / layout::kTextsDirectory;
-        for (const std::string& scope : scopes) {
+        for (const std::string& scope : Scopes()) {
             if (const auto file = tree_.Answer(source_, scope)) {
                 fs::path path = texts / lm_tree::PathOf(scope);
                 path += layout::kTextsExtension;
@@ -59,6 +60,25 @@ public:
     }
 
 private:
+    std::vector<std::string> Scopes() const {
+        std::vector<std::string> scopes = tree_.ScopesOf(source_);
+        scopes.insert(scopes.begin(), lm_tree::CommonScope());
+        return scopes;
+    }
+
+    /// Neutral texts are in the culture's language where the tree names no cultures.
+    void RequireTexts() const {
+        const std::string neutral = lm_tree::Utf8Of(layout::kNeutralDirectory);
+        for (const std::string& scope : Scopes()) {
+            const auto file = tree_.Answer(source_, scope);
+            if (file && (tree_.Cultures().empty() || tree_.Files()[*file].directory != neutral)) {
+                return;
+            }
+        }
+        throw std::invalid_argument("the tree has no texts of '" + source_.name +
+                                    "' but the neutral ones");
+    }
+
     lm_tree::Tree tree_;
     lm_tree::CultureName source_;
     fs::path to_;

@@ -3,11 +3,11 @@
 #include <memory>
 #include <system_error>
 
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/rename.h"
 #include "edit/write_whole.h"
 #include "read_lock.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
@@ -26,7 +26,7 @@ bool Rename(const RenameSettings& settings) {
     lm_check::TranslationLock lock = ReadLock(root);
     const std::string before = lock.Text();
     const auto changes =
-        lm_edit::Rename(tree, settings.key, ReferenceOr(tree, settings.reference), lock);
+        lm_edit::Rename(tree, settings.key, ChooseReference(tree, settings.reference), lock);
     for (const lm_edit::FileChange& change : changes) {
         lm_edit::WriteInTree(root, change.path, change.bytes);
         std::cout << lm_tree::Utf8Of(change.path) << ": " << change.count

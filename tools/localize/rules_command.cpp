@@ -5,10 +5,10 @@
 #include <numeric>
 #include <optional>
 
-#include "choose_cultures.h"
 #include "commands.h"
 #include "plural/cldr.h"
 #include "plural/culture_rule.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
@@ -97,7 +97,7 @@ bool PrintRules(const RulesSettings& settings) {
     }
     const std::vector<std::uint64_t> numbers = Numbers();
     for (const std::string& name : settings.cultures) {
-        const lm_tree::CultureName culture = RequestedCulture(name);
+        const lm_tree::CultureName culture = lm_tree::RequestedCulture(name);
         const auto [rule, file] = lm_plural::RuleOf(tree ? &*tree : nullptr, culture);
         std::cout << culture.name << ": " << rule.FormCount()
                   << (rule.FormCount() == 1 ? " form, " : " forms, ")
