@@ -4,6 +4,7 @@
 #include <string>
 #include <system_error>
 
+#include "ResolveLinks.h"
 #include "WriteFileWhole.h"
 #include "tree/path_text.h"
 
@@ -20,7 +21,7 @@ namespace {
 /// The file itself, links followed.
 fs::path Resolved(const fs::path& path) {
     std::error_code error;
-    fs::path resolved = fs::weakly_canonical(fs::absolute(path), error);
+    fs::path resolved = Platform::ResolveLinks(path, error);
     if (error) {
         ThrowCannotWrite(path, error.message());
     }

@@ -4,12 +4,12 @@
 #include <memory>
 #include <system_error>
 
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/write_whole.h"
 #include "keys/cpp_header.h"
 #include "keys/read_keys.h"
 #include "read_text.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
@@ -32,7 +32,7 @@ bool IsUpToDate(const std::string& file, const std::string& bytes) {
 
 bool WriteKeys(const KeysSettings& settings) {
     const lm_tree::Tree tree(lm_tree::PathOf(settings.root), {});
-    const lm_tree::CultureName reference = ReferenceOr(tree, settings.reference);
+    const lm_tree::CultureName reference = lm_tree::ChooseReference(tree, settings.reference);
     const std::string header =
         CppHeader(lm_keys::ReadKeys(tree, reference), {settings.nameSpace, reference.name});
     if (settings.output.empty()) {

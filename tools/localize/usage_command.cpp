@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "Answers.h"
-#include "choose_cultures.h"
 #include "commands.h"
 #include "counted.h"
 #include "keys/Usage.h"
@@ -11,6 +10,7 @@
 #include "program_sources.h"
 #include "read_text.h"
 #include "request_options.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
@@ -87,7 +87,7 @@ void PrintText(const std::string& reference, std::size_t keys, std::size_t files
 
 bool FindUsage(const UsageSettings& settings) {
     const lm_tree::Tree tree(lm_tree::PathOf(settings.root), {});
-    const lm_tree::CultureName reference = ReferenceOr(tree, settings.reference);
+    const lm_tree::CultureName reference = lm_tree::ChooseReference(tree, settings.reference);
     const auto scopes = lm_keys::ReadKeys(tree, reference);
     lm_keys::Usage usage(scopes, settings.ignored);
     const auto sources = ProgramSources(settings.sources);
