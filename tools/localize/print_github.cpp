@@ -1,3 +1,5 @@
+#include <cstdint>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -25,10 +27,22 @@ std::string Escape(std::string_view text, std::string_view special) {
 constexpr std::string_view kSpecial = "%\r\n";
 constexpr std::string_view kSpecialInProperty = "%\r\n:,";
 
+/// The text shows lines of the tree's files, and GitHub would obey those that look like commands: until it
+/// meets the token, which does not occur in the text, it obeys none.
+void PrintInert(std::ostream& output, const std::string& text) {
+    std::uint32_t number = 1'000'000'000;
+    while (text.find(std::to_string(number)) != std::string::npos) {
+        ++number;
+    }
+    output << "::stop-commands::" << number << '\n' << text << "::" << number << "::\n";
+}
+
 }  // namespace
 
 void PrintGitHub(std::ostream& output, const lm_check::Report& report, const FindingPaths& paths) {
-    PrintText(output, report, paths);
+    std::ostringstream text;
+    PrintText(text, report, paths);
+    PrintInert(output, text.str());
     for (const lm_check::Finding& finding : report.findings) {
         const lm_check::Location& at = finding.location;
         output << (finding.severity == lm_check::Severity::Error ? "::error" : "::warning")
