@@ -7,13 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "CannotRunError.h"
 #include "UsageError.h"
 
 namespace localize {
 
 /// What the chosen command does, once its options are read.
 /// @return whether nothing failed and nothing was found.
-/// @throws UsageError when it cannot run.
+/// @throws UsageError, CannotRunError, or anything else when it fails.
 using Task = std::function<bool()>;
 
 /// The end of a command's help.
@@ -24,15 +25,16 @@ struct CommandHelp {
     const char* example;
 };
 
-/// For commands that judge or write files. One that cannot run has found nothing, which must not be
-/// taken for findings.
+/// For commands that judge or write files.
 template <class Run>
 Task ThatRuns(Run run) {
     return [run] {
         try {
             return run();
+        } catch (const UsageError&) {
+            throw;
         } catch (const std::runtime_error& error) {
-            throw UsageError(error.what());
+            throw CannotRunError(error.what());
         } catch (const std::invalid_argument& error) {
             throw UsageError(error.what());
         }

@@ -144,13 +144,13 @@ bool Passes(const CheckSettings& settings, const lm_check::Report& report) {
 /// A report that nobody gets is as none.
 void Flush() {
     if (!std::cout.flush()) {
-        throw UsageError("cannot write to standard output");
+        throw std::runtime_error("cannot write to standard output");
     }
 }
 
 }  // namespace
 
-bool RunCheck(const CheckSettings& settings) try {
+bool RunCheck(const CheckSettings& settings) {
     Platform::ReturnFreedMemory();
     lm_check::CheckOptions options = OptionsOf(settings);
     const fs::path root = lm_tree::PathOf(settings.root);
@@ -163,11 +163,9 @@ bool RunCheck(const CheckSettings& settings) try {
     Print(settings.format, report, FindingPaths(tree));
     Flush();
     return Passes(settings, report);
-} catch (const std::invalid_argument& unknown) {
-    throw UsageError(unknown.what());
 }
 
-void RunAccept(const CheckSettings& settings) try {
+void RunAccept(const CheckSettings& settings) {
     const fs::path root = lm_tree::PathOf(settings.root);
     const lm_tree::Tree tree(root, {});
     lm_check::TranslationLock lock = ReadLock(root);
@@ -178,8 +176,6 @@ void RunAccept(const CheckSettings& settings) try {
     }
     std::cout << count << (count == 1 ? " text" : " texts") << " accepted\n";
     Flush();
-} catch (const std::invalid_argument& unknown) {
-    throw UsageError(unknown.what());
 }
 
 }  // namespace localize

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "CannotRunError.h"
 #include "ExitStatus.h"
 #include "Platform.h"
 #include "ReportedError.h"
@@ -35,6 +36,9 @@ ExitStatus RunAndReport(int argc, const char* const* argv) {
         return Run(Platform::CommandLine(argc, argv));
     } catch (const localize::UsageError& error) {
         std::cerr << "localize: " << error.what() << "\nRun with --help for more information.\n";
+        return ExitStatus::WrongUsage;
+    } catch (const localize::CannotRunError& error) {
+        std::cerr << "localize: " << error.what() << '\n';
         return ExitStatus::WrongUsage;
     } catch (const localize::ReportedError&) {
         return ExitStatus::Failed;
