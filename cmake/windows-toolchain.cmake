@@ -1,6 +1,7 @@
 # Cross builds for Windows with the compilers of Debian. The toolchain file of a width sets `triplet` and
 # includes this one; scripts/setup-windows installs what is named here.
 set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_C_COMPILER ${triplet}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${triplet}-g++-posix)
 set(CMAKE_RC_COMPILER ${triplet}-windres)
 

@@ -1,6 +1,5 @@
 // Which cultures serve which user.
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -43,22 +42,9 @@ TEST(CultureChoiceTest, ServesUsersAsTheTableSays) {
     EXPECT_GT(count, 30);
 }
 
-class UserCulturesTest : public HostTree {
-protected:
-    /// What a user gets whose environment is these variables and no others of the kind.
-    static std::string ForUser(const host::CultureChoice& choice, const std::string& variables) {
-        for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"}) {
-            unsetenv(name);
-        }
-        for (const std::string& variable : Words(variables)) {
-            const std::size_t at = variable.find('=');
-            setenv(variable.substr(0, at).c_str(), variable.substr(at + 1).c_str(), 1);
-        }
-        return Joined(choice.ForUser());
-    }
-};
+using TreeCulturesTest = HostTree;
 
-TEST_F(UserCulturesTest, ComeFromTheEnvironmentAndTheTree) {
+TEST_F(TreeCulturesTest, AreTheDirectoriesThatRequestsLeadTo) {
     for (const char* const directory : {"de", "pt-br", "zh-Hant", "ru"}) {
         files.Write(directory + std::string("/Locs/main.lt"), "");
     }
@@ -72,14 +58,6 @@ TEST_F(UserCulturesTest, ComeFromTheEnvironmentAndTheTree) {
     settings.alternative = other.Root().string();
     const host::Tree tree(files.Root().string(), settings);
     EXPECT_EQ(Joined(tree.Cultures()), "de it-ch pt-br ru zh-Hant");
-
-    const host::CultureChoice choice(tree.Cultures(), "de");
-    EXPECT_EQ(ForUser(choice, ""), "de");
-    EXPECT_EQ(ForUser(choice, "LANG=ru_RU.UTF-8"), "ru de");
-    EXPECT_EQ(ForUser(choice, "LANG=ru_RU LC_MESSAGES=it"), "it-ch de");
-    EXPECT_EQ(ForUser(choice, "LANG=ru_RU LC_MESSAGES=it LC_ALL=pt"), "pt-br de");
-    EXPECT_EQ(ForUser(choice, "LANG=ru_RU LANGUAGE=:pt_BR::zh_TW:"), "pt-br zh-Hant ru de");
-    EXPECT_EQ(ForUser(choice, "LANG=C.UTF-8 LANGUAGE=pt_BR"), "de");
 }
 
 }  // namespace

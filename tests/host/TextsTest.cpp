@@ -136,7 +136,7 @@ TEST_F(TextsTest, TakesTheVariantThatTheFirstCultureHas) {
 
 TEST_F(TextsTest, FindsFilesOfTheFirstCultureThatHasThem) {
     const host::Texts texts = Open({"de", "en"});
-    EXPECT_EQ(texts.Path("logo.png"), (files.Root() / "en/main/logo.png").string());
+    EXPECT_EQ(texts.Path("logo.png"), (files.Root() / "en" / "main" / "logo.png").string());
     EXPECT_EQ(texts.Path("none.png"), std::nullopt);
     EXPECT_EQ(texts.Path("../main/logo.png"), std::nullopt);
     EXPECT_NE(TakeReports().find("leads out of the tree"), std::string::npos);

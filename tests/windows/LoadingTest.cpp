@@ -6,6 +6,7 @@
 
 #include "System.h"
 #include "TempTree.h"
+#include "localization_manager/c/localization_manager.h"
 #include "localization_manager/host/host.h"
 
 namespace {
@@ -95,6 +96,27 @@ TEST_F(LoadingTest, ThreadsThatFailLeaveNothing) {
     const Use after = HeapUse();
     EXPECT_LT(after.blocks - before.blocks, 50);
     EXPECT_LT(after.bytes - before.bytes, 1000 * 16);
+}
+
+/// Beside this program there is a module, too. A thread that has called the library keeps it until it ends.
+TEST_F(LoadingTest, ALibraryOfTheHostFindsTheModuleBesideItself) {
+    const auto place = tree.Root() / "library";
+    std::filesystem::create_directory(place);
+    std::filesystem::copy_file(LIBRARY, place / "c.dll");
+    void* const library = qor::platform::OpenSharedLibrary((place / "c.dll").string());
+    std::thread([&] {
+        const auto open = reinterpret_cast<decltype(&lmc_open)>(
+            qor::platform::FindInSharedLibrary(library, "lmc_open"));
+        const auto close = reinterpret_cast<decltype(&lmc_close)>(
+            qor::platform::FindInSharedLibrary(library, "lmc_close"));
+        const std::string root = tree.Root().string();
+        EXPECT_EQ(open(root.c_str(), nullptr, nullptr, LMC_MISSING_KEY), nullptr);
+        std::filesystem::copy_file(MODULE, place / "localization_manager.dll");
+        lmc_tree* const opened = open(root.c_str(), nullptr, nullptr, LMC_MISSING_KEY);
+        EXPECT_NE(opened, nullptr);
+        close(opened);
+    }).join();
+    qor::platform::CloseSharedLibrary(library);
 }
 
 }  // namespace

@@ -32,6 +32,8 @@ __declspec(dllimport) unsigned long __stdcall FormatMessageW(
     wchar_t* text, unsigned long size, va_list* arguments);
 __declspec(dllimport) unsigned long __stdcall GetModuleFileNameW(HINSTANCE__* library,
                                                                  wchar_t* name, unsigned long size);
+__declspec(dllimport) int __stdcall GetModuleHandleExW(unsigned long flags, const wchar_t* name,
+                                                       HINSTANCE__** library);
 __declspec(dllimport) HINSTANCE__* __stdcall LoadLibraryExW(const wchar_t* name, void* file,
                                                             unsigned long flags);
 __declspec(dllimport) ExportedFunction
@@ -53,35 +55,40 @@ inline std::string TextOfError(unsigned long error) {
     return size > 0 ? std::string(utf8.begin(), utf8.end()) : "error " + std::to_string(error);
 }
 
-inline std::filesystem::path ProgramFile() {
+/// The program or library that this is compiled into.
+inline std::filesystem::path OwnFile() {
+    static const wchar_t here = L'\0';
+    constexpr unsigned long kByAddressWithoutReference = 0x4 | 0x2;
+    HINSTANCE__* own = nullptr;  // the program, should it not be known
+    GetModuleHandleExW(kByAddressWithoutReference, &here, &own);
     std::wstring name(260, L'\0');
     unsigned long size = 0;
-    while ((size = GetModuleFileNameW(nullptr, name.data(),
-                                      static_cast<unsigned long>(name.size()))) >= name.size()) {
+    while ((size = GetModuleFileNameW(own, name.data(), static_cast<unsigned long>(name.size()))) >=
+           name.size()) {
         name.resize(2 * name.size());
     }
     name.resize(size);
     return name;
 }
 
-/// Where a library is: a bare name stands beside the program. The system would go on to look into places that
-/// others may write to, the working directory among them.
+/// Where a library is: a bare name stands beside the program or library that asks. The system would go on to
+/// look into places that others may write to, the working directory among them.
 inline std::filesystem::path FullLibraryPath(const std::string& path) {
     std::u16string units;
     DecodeUtf8(path, std::back_inserter(units));
     const std::filesystem::path library(units);
     const bool isBare = !library.has_root_path() && !library.has_parent_path();
-    return isBare ? ProgramFile().replace_filename(library) : std::filesystem::absolute(library);
+    return isBare ? OwnFile().replace_filename(library) : std::filesystem::absolute(library);
 }
 
 }  // namespace detail
 
-/// @param path  a file in UTF-8; a bare name stands beside the program that runs.
+/// @param path  a file in UTF-8; a bare name stands beside the program or library that this is compiled into.
 /// @return a handle to give back with `CloseSharedLibrary`.
 /// @throws std::runtime_error with the system's message.
 inline void* OpenSharedLibrary(const std::string& path) {
     const std::filesystem::path full = detail::FullLibraryPath(path).make_preferred();
-    // What the library itself needs is looked for beside it, not beside the program.
+    // What the library itself needs is looked for beside it, not beside the program that runs.
     constexpr unsigned long kWithAlteredSearchPath = 8;
     HINSTANCE__* const handle =
         detail::LoadLibraryExW(full.c_str(), nullptr, kWithAlteredSearchPath);

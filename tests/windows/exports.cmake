@@ -1,5 +1,5 @@
-# What the module of Windows exports, and what it needs.
-execute_process(COMMAND ${OBJDUMP} -p ${MODULE} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
+# What a library of Windows exports, EXPORTS, separated by commas; and that it needs the system alone.
+execute_process(COMMAND ${OBJDUMP} -p ${LIBRARY} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
 
 function(expect expected text pattern)
     string(REGEX MATCHALL "${pattern}" found "${text}")
@@ -13,4 +13,6 @@ endfunction()
 expect("KERNEL32.dll;msvcrt.dll" "${headers}" "DLL Name: ([^\n]*)")
 string(REGEX REPLACE "^.*Name Pointer. Table\n" "" exports "${headers}")
 string(REGEX REPLACE "\n\n.*$" "" exports "${exports}\n\n")
-expect("qorCanUnloadModule;qorGetObjectFactory" "${exports}" "[[] *[0-9]+. ([^\n]*)")
+string(REPLACE "," ";" EXPORTS "${EXPORTS}")
+list(SORT EXPORTS)
+expect("${EXPORTS}" "${exports}" "[[] *[0-9]+. ([^\n]*)")
