@@ -3,7 +3,7 @@
 
 #include "check/families.h"
 #include "source/Encoding.h"
-#include "source/comments.h"
+#include "source/untranslated.h"
 
 namespace lm_check {
 
@@ -153,22 +153,12 @@ void CheckControls(const SourceView& source, const Document& document, const Ent
     }
 }
 
-/// Whether a comment says that an entry is still to be translated.
-bool SaysUntranslated(std::string_view comment) {
-    constexpr std::string_view kMark = "localize: untranslated";
-    const std::size_t at = comment.find_first_not_of("; \t");
-    return at != std::string_view::npos && comment.substr(at, kMark.size()) == kMark;
-}
-
 void CheckMark(const SourceView& source, const Document& document, std::size_t number,
                const std::vector<Request>& requests, Collector& out) {
     const Entry& entry = document.Entries()[number];
-    for (const Range comment : CommentsAbove(document, number)) {
-        if (SaysUntranslated(document.Bytes(comment))) {
-            out.Add(Rule::Untranslated, source, entry.key, document.Key(entry), requests,
-                    "the text is still to be translated: translate it and remove the comment");
-            return;
-        }
+    if (UntranslatedMark(document, number)) {
+        out.Add(Rule::Untranslated, source, entry.key, document.Key(entry), requests,
+                "the text is still to be translated: translate it and remove the comment");
     }
 }
 

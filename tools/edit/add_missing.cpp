@@ -6,10 +6,13 @@
 #include <utility>
 
 #include "TreeLayout.h"
+#include "edit/append.h"
 #include "edit/format.h"
 #include "edit/read_document.h"
 #include "plural/culture_rule.h"
 #include "source/Document.h"
+#include "source/edits.h"
+#include "source/untranslated.h"
 #include "tree/path_text.h"
 
 namespace lm_edit {
@@ -22,8 +25,6 @@ using lm_source::OperandKind;
 using lm_source::Value;
 
 namespace {
-
-constexpr const char* kComment = "; localize: untranslated";
 
 /// A value with another number of forms: too few are filled up with the last one, which serves most
 /// numbers, and of too many the last one is kept.
@@ -47,18 +48,10 @@ std::string WithForms(const Document& document, Value value, std::size_t count) 
     return text;
 }
 
-std::string_view LineBreakOf(std::string_view bytes) {
-    const std::size_t at = bytes.find_first_of("\r\n");
-    if (at == std::string_view::npos) {
-        return "\n";
-    }
-    return bytes.substr(at, bytes.substr(at, 2) == "\r\n" ? 2 : 1);
-}
-
 /// An untranslated entry, in the one style.
 std::string EntryText(const Document& reference, const Entry& entry, std::size_t forms,
                       std::string_view lineBreak) {
-    std::string text(kComment);
+    std::string text(lm_source::kUntranslatedComment);
     text.append(lineBreak).append(reference.Key(entry)).append(" = ");
     text.append(WithForms(reference, reference.ValueOf(entry), forms)).append(lineBreak);
     return Format(Document(std::move(text)));
@@ -135,15 +128,11 @@ private:
 
     void Add(const std::string& scope, const Document& own, const Document& reference,
              const std::vector<const Entry*>& lacking, bool isNew) {
-        const std::string_view lineBreak = LineBreakOf(own.Bytes());
-        std::string text(own.Bytes().substr(0, own.Content().end));
-        if (!own.Bytes(own.Content()).empty()) {
-            const bool isEnded = text.back() == '\n' || text.back() == '\r';
-            text.append(isEnded ? "" : lineBreak).append(lineBreak);
-        }
+        std::string entries;
         for (const Entry* const entry : lacking) {
-            text += EntryText(reference, *entry, forms_, lineBreak);
+            entries += EntryText(reference, *entry, forms_, LineBreakOf(own));
         }
+        std::string text = lm_source::Apply(own.Bytes(), {Appended(own, entries)});
         if (!Document(text).Mistakes().empty()) {
             throw std::logic_error("adding to the file would make it faulty");
         }

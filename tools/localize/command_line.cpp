@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "UsageError.h"
-#include "commands.h"
 #include "read_text.h"
 
 namespace localize {
@@ -70,16 +69,13 @@ void RequireKnownCommand(CLI::App& app, std::string_view word) {
 
 }  // namespace
 
-Task ParseCommandLine(int argc, const char* const* argv) {
+Task ParseCommandLine(const Program& program, int argc, const char* const* argv) {
     Task chosen;
-    CLI::App app("Prints, checks and edits the texts of a localisation tree.", "localize");
-    app.set_version_flag("--version", "localize " LOCALIZE_VERSION);
+    CLI::App app(program.description, program.name);
+    app.set_version_flag("--version", std::string(program.name) + ' ' + LOCALIZE_VERSION);
     app.require_subcommand(1);
-    app.footer(
-        "Exit status: 0 done, 1 not all was answered or something was found, 2 could not run.\n"
-        "Example: localize get --root texts --culture de --scope main Greeting\n"
-        "'localize COMMAND --help' tells all about a command.");
-    AddAllCommands(app, chosen);
+    app.footer(program.footer);
+    program.addCommands(app, chosen);
     if (argc > 1 && argv[1][0] != '-') {
         RequireKnownCommand(app, argv[1]);
     }

@@ -29,6 +29,9 @@ public:
     /// period is not shorter, are tried.
     explicit PluralRule(std::vector<Condition> conditions);
 
+    /// The ones of a file, one for each form; none of a rule that the engine brings along.
+    const std::vector<Condition>& Conditions() const noexcept { return conditions_; }
+
     std::size_t FormCount() const noexcept { return uses_.size(); }
 
     /// Empty for a number that no condition accepts.
