@@ -1,0 +1,266 @@
+#include "Catalog.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "read_text.h"
+#include "source/Encoding.h"
+#include "tree/path_text.h"
+
+namespace localize_po {
+
+namespace {
+
+constexpr const char* kFormat = "python-brace-format";
+
+/// What the library complains of while a function of it runs. It takes no object along.
+class Complaints {
+public:
+    Complaints() { current = this; }
+    Complaints(const Complaints&) = delete;
+    Complaints& operator=(const Complaints&) = delete;
+    ~Complaints() { current = nullptr; }
+
+    static const po_xerror_handler* Handler() {
+        static const po_xerror_handler handler = {&Take, &TakeTwo};
+        return &handler;
+    }
+
+    const std::vector<std::string>& All() const noexcept { return all_; }
+
+private:
+    /// After a fatal one the library cannot go on.
+    static void Take(int severity, po_message_t /*message*/, const char* file, std::size_t line,
+                     std::size_t /*column*/, int /*isMultiline*/, const char* text) {
+        if (severity == PO_SEVERITY_WARNING) {
+            return;
+        }
+        std::string complaint(text);
+        complaint.resize(complaint.find_last_not_of('\n') + 1);
+        if (file != nullptr && line != static_cast<std::size_t>(-1)) {
+            complaint = std::string(file) + ':' + std::to_string(line) + ": " + complaint;
+        }
+        current->all_.push_back(complaint);
+        if (severity == PO_SEVERITY_FATAL_ERROR) {
+            throw std::runtime_error(current->all_.front());
+        }
+    }
+
+    static void TakeTwo(int severity, po_message_t message, const char* file, std::size_t line,
+                        std::size_t column, int isMultiline, const char* text,
+                        po_message_t /*other*/, const char* /*otherFile*/,
+                        std::size_t /*otherLine*/, std::size_t /*otherColumn*/,
+                        int /*otherIsMultiline*/, const char* /*otherText*/) {
+        Take(severity, message, file, line, column, isMultiline, text);
+    }
+
+    static Complaints* current;
+
+    std::vector<std::string> all_;
+};
+
+Complaints* Complaints::current = nullptr;
+
+/// A file of no name that others know, removed in the end: the library reads and writes files alone.
+class TemporaryFile {
+public:
+    TemporaryFile() {
+        path_ = (std::filesystem::temp_directory_path() / "localize-po.XXXXXX").string();
+        const int file = ::mkstemp(path_.data());
+        if (file < 0) {
+            throw std::runtime_error("cannot make '" + path_ +
+                                     "': " + std::generic_category().message(errno));
+        }
+        ::close(file);
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() { ::unlink(path_.c_str()); }
+
+    const std::string& Path() const noexcept { return path_; }
+
+private:
+    std::string path_;
+};
+
+/// What the library does not look at.
+void RequireWholeText(const std::string& path) {
+    const std::string bytes = localize::ReadBytes(path);
+    const lm_source::Encoding encoding = lm_source::EncodingOf(bytes);
+    if (encoding.isUtf16 || !encoding.illFormed.empty()) {
+        throw std::runtime_error("'" + path + "' is not UTF-8: save it as UTF-8");
+    }
+    if (bytes.find('\0') != std::string::npos) {
+        throw std::runtime_error("'" + path + "' has a zero character and is no PO file");
+    }
+    if (bytes.empty() || bytes.back() != '\n') {
+        throw std::runtime_error("'" + path + "' is not whole: its last line does not end");
+    }
+}
+
+std::string TextOf(const char* text) {
+    return text != nullptr ? text : "";
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::string LineText(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + '\n';
+    }
+    return text;
+}
+
+CatalogEntry EntryOf(po_message_t message) {
+    CatalogEntry entry;
+    if (const char* const context = po_message_msgctxt(message)) {
+        entry.context = context;
+    }
+    entry.id = TextOf(po_message_msgid(message));
+    if (const char* const plural = po_message_msgid_plural(message)) {
+        entry.pluralId = plural;
+        int form = 0;
+        while (const char* const text = po_message_msgstr_plural(message, form++)) {
+            entry.translations.emplace_back(text);
+        }
+    } else {
+        entry.translations.push_back(TextOf(po_message_msgstr(message)));
+    }
+    entry.isFuzzy = po_message_is_fuzzy(message) != 0;
+    entry.isObsolete = po_message_is_obsolete(message) != 0;
+    entry.comments = LinesOf(TextOf(po_message_extracted_comments(message)));
+    return entry;
+}
+
+po_message_t MessageOf(const CatalogEntry& entry) {
+    po_message_t message = po_message_create();
+    po_message_set_msgctxt(message, entry.context ? entry.context->c_str() : nullptr);
+    po_message_set_msgid(message, entry.id.c_str());
+    if (entry.pluralId) {
+        po_message_set_msgid_plural(message, entry.pluralId->c_str());
+        int form = 0;
+        for (const std::string& text : entry.translations) {
+            po_message_set_msgstr_plural(message, form++, text.c_str());
+        }
+    } else {
+        po_message_set_msgstr(message, entry.translations.front().c_str());
+    }
+    po_message_set_fuzzy(message, entry.isFuzzy ? 1 : 0);
+    po_message_set_format(message, kFormat, 1);
+    if (!entry.file.empty()) {
+        po_message_add_filepos(message, entry.file.c_str(), static_cast<std::size_t>(-1));
+    }
+    return message;
+}
+
+bool IsTranslated(const CatalogEntry& entry) {
+    return std::any_of(entry.translations.begin(), entry.translations.end(),
+                       [](const std::string& text) { return !text.empty(); });
+}
+
+/// What `msgfmt -c` says of a message; empty when it is content.
+std::string ComplaintOf(po_message_t message, po_message_iterator_t place) {
+    const Complaints complaints;
+    po_message_check_all(message, place, Complaints::Handler());
+    return complaints.All().empty() ? std::string() : complaints.All().front();
+}
+
+}  // namespace
+
+Catalog::Catalog(po_file* file) : file_(file) {}
+
+Catalog::Catalog(const std::string& header)
+    : file_(po_file_create()), end_(po_message_iterator(file_.get(), nullptr)) {
+    po_message_t message = po_message_create();
+    po_message_set_msgid(message, "");
+    po_message_set_msgstr(message, header.c_str());
+    po_message_insert(end_.get(), message);
+}
+
+Catalog Catalog::Read(const std::string& path) {
+    RequireWholeText(path);
+    const Complaints complaints;
+    Catalog catalog(po_file_read(path.c_str(), Complaints::Handler()));
+    if (!catalog.file_) {
+        throw std::runtime_error("cannot read '" + path +
+                                 "': " + std::generic_category().message(errno));
+    }
+    if (!complaints.All().empty()) {
+        throw std::runtime_error(complaints.All().front());
+    }
+    const std::string type = catalog.HeaderField("Content-Type");
+    std::string charset = type.substr(std::min(type.find("charset="), type.size()));
+    std::transform(charset.begin(), charset.end(), charset.begin(), [](char unit) {
+        return unit >= 'A' && unit <= 'Z' ? static_cast<char>(unit - 'A' + 'a') : unit;
+    });
+    if (charset != "charset=utf-8") {
+        throw std::runtime_error("'" + path + "': the header says '" + type +
+                                 "': convert the file with 'msgconv -t UTF-8'");
+    }
+    return catalog;
+}
+
+std::string Catalog::HeaderField(const char* name) const {
+    const char* const header = po_file_domain_header(file_.get(), nullptr);
+    char* const field = header != nullptr ? po_header_field(header, name) : nullptr;
+    std::string text = TextOf(field);
+    std::free(field);
+    return text;
+}
+
+std::vector<CatalogEntry> Catalog::Entries() const {
+    std::vector<CatalogEntry> entries;
+    const Place messages(po_message_iterator(file_.get(), nullptr));
+    while (po_message_t message = po_next_message(messages.get())) {
+        const bool isHeader =
+            po_message_msgctxt(message) == nullptr && TextOf(po_message_msgid(message)).empty();
+        if (!isHeader) {
+            entries.push_back(EntryOf(message));
+        }
+    }
+    return entries;
+}
+
+void Catalog::Add(const CatalogEntry& entry) {
+    po_message_t message = MessageOf(entry);
+    std::vector<std::string> comments = entry.comments;
+    const std::string complaint =
+        IsTranslated(entry) && !entry.isFuzzy ? ComplaintOf(message, end_.get()) : std::string();
+    if (!complaint.empty()) {
+        po_message_set_fuzzy(message, 1);
+        std::vector<std::string> lines = LinesOf(complaint);
+        lines.front().insert(0, "localize: fuzzy because: ");
+        comments.insert(comments.end(), lines.begin(), lines.end());
+    }
+    po_message_set_extracted_comments(message, LineText(comments).c_str());
+    po_message_insert(end_.get(), message);
+}
+
+std::string Catalog::Bytes() const {
+    const TemporaryFile file;
+    const Complaints complaints;
+    po_file_write(file_.get(), file.Path().c_str(), Complaints::Handler());
+    if (!complaints.All().empty()) {
+        throw std::runtime_error(complaints.All().front());
+    }
+    return localize::ReadBytes(file.Path());
+}
+
+}  // namespace localize_po

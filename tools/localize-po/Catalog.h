@@ -1,0 +1,54 @@
+// A PO file.
+#pragma once
+
+#include <gettext-po.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "CatalogEntry.h"
+
+namespace localize_po {
+
+/// As gettext's own library reads, checks and writes it. Not for several threads at a time.
+class Catalog {
+public:
+    /// An empty one.
+    /// @param header  lines "Field: value".
+    explicit Catalog(const std::string& header);
+
+    /// @throws std::runtime_error when the file cannot be read, or is no PO file in UTF-8, or does not
+    ///         end with its last line.
+    static Catalog Read(const std::string& path);
+
+    /// A field of the header; empty when it is not there.
+    std::string HeaderField(const char* name) const;
+
+    /// All but the header.
+    std::vector<CatalogEntry> Entries() const;
+
+    /// Adds a message at the end. Its texts are Python's brace format, which has names in braces, as
+    /// ours do. Where `msgfmt -c` would refuse the translation, it is made fuzzy, with the reason as a
+    /// comment.
+    void Add(const CatalogEntry& entry);
+
+    /// The file.
+    std::string Bytes() const;
+
+private:
+    struct Close {
+        void operator()(po_file* file) const { po_file_free(file); }
+        void operator()(po_message_iterator_t place) const { po_message_iterator_free(place); }
+    };
+
+    using Place = std::unique_ptr<std::remove_pointer_t<po_message_iterator_t>, Close>;
+
+    explicit Catalog(po_file* file);
+
+    std::unique_ptr<po_file, Close> file_;
+    Place end_;  // behind what was added
+};
+
+}  // namespace localize_po
