@@ -175,6 +175,32 @@ bool IsTranslated(const CatalogEntry& entry) {
                        [](const std::string& text) { return !text.empty(); });
 }
 
+/// What `msgfmt` compares in two texts: names in braces, and line breaks at the start and the end.
+std::vector<std::string_view> FormatOf(std::string_view text) {
+    std::vector<std::string_view> format;
+    for (std::size_t at = 0; (at = text.find('{', at)) != std::string_view::npos;) {
+        const std::size_t close = std::min(text.find('}', at), text.size());
+        if (text.substr(at, 2) != "{{") {
+            format.push_back(text.substr(at, close - at));
+            at = close;
+        } else {
+            at += 2;
+        }
+    }
+    std::sort(format.begin(), format.end());
+    format.push_back(text.substr(0, text.substr(0, 1) == "\n" ? 1 : 0));
+    format.push_back(text.substr(text.size() - (!text.empty() && text.back() == '\n' ? 1 : 0)));
+    return format;
+}
+
+/// Whether all texts of a message are alike, so that nobody complains. To ask takes much longer.
+bool IsAlike(const CatalogEntry& entry) {
+    const auto format = FormatOf(entry.id);
+    return (!entry.pluralId || FormatOf(*entry.pluralId) == format) &&
+           std::all_of(entry.translations.begin(), entry.translations.end(),
+                       [&format](const std::string& text) { return FormatOf(text) == format; });
+}
+
 /// What `msgfmt -c` says of a message; empty when it is content.
 std::string ComplaintOf(po_message_t message, po_message_iterator_t place) {
     const Complaints complaints;
@@ -241,8 +267,9 @@ std::vector<CatalogEntry> Catalog::Entries() const {
 void Catalog::Add(const CatalogEntry& entry) {
     po_message_t message = MessageOf(entry);
     std::vector<std::string> comments = entry.comments;
-    const std::string complaint =
-        IsTranslated(entry) && !entry.isFuzzy ? ComplaintOf(message, end_.get()) : std::string();
+    const std::string complaint = IsTranslated(entry) && !entry.isFuzzy && !IsAlike(entry)
+                                      ? ComplaintOf(message, end_.get())
+                                      : std::string();
     if (!complaint.empty()) {
         po_message_set_fuzzy(message, 1);
         std::vector<std::string> lines = LinesOf(complaint);
