@@ -18,6 +18,7 @@ void AddRulesCommand(CLI::App& app, Task& chosen);
 void AddReportCommand(CLI::App& app, Task& chosen);
 void AddKeysCommand(CLI::App& app, Task& chosen);
 void AddUsageCommand(CLI::App& app, Task& chosen);
+void AddLspCommand(CLI::App& app, Task& chosen);
 void AddCheckCommands(CLI::App& app, Task& chosen);  // `check` and `accept`
 
 /// In the order in which --help names them.
@@ -36,6 +37,7 @@ inline void AddAllCommands(CLI::App& app, Task& chosen) {
     AddReportCommand(app, chosen);
     AddKeysCommand(app, chosen);
     AddUsageCommand(app, chosen);
+    AddLspCommand(app, chosen);
 }
 
 }  // namespace localize

@@ -1,0 +1,116 @@
+#include "lsp/Inbox.h"
+
+#include <string>
+#include <utility>
+
+#include "lsp/frames.h"
+
+namespace lm_lsp {
+
+namespace {
+
+constexpr std::size_t kMost = 1000;
+
+/// A member of an object; null when it is none, or has no such member.
+const Json& At(const Json& value, const char* name) {
+    static const Json none;
+    const auto found = value.is_object() ? value.find(name) : value.end();
+    return value.is_object() && found != value.end() ? *found : none;
+}
+
+bool IsMethod(const Json& message, const char* name) {
+    const Json& method = At(message, "method");
+    return method.is_string() && method.get_ref<const std::string&>() == name;
+}
+
+const Json& UriOf(const Json& message) {
+    return At(At(At(message, "params"), "textDocument"), "uri");
+}
+
+}  // namespace
+
+void Inbox::ReadAll(std::istream& in) {
+    try {
+        while (const auto content = ReadFrame(in)) {
+            Message message;
+            try {
+                message.content = ParseContent(*content);
+            } catch (const RequestError& error) {
+                message.refusal = error;
+            }
+            const bool isLast = IsMethod(message.content, "exit");
+            Add(std::move(message));
+            if (isLast) {
+                break;
+            }
+        }
+    } catch (const FrameError& error) {
+        Add({Json(), RequestError(ErrorCode::ParseError, error.what())});
+    }
+    Close();
+}
+
+void Inbox::Add(Message message) {
+    std::unique_lock<std::mutex> guard(mutex_);
+    RefuseNeedless(message.content);
+    if (IsMethod(message.content, "$/cancelRequest")) {
+        return;
+    }
+    taken_.wait(guard, [this] { return messages_.size() < kMost; });
+    messages_.push_back(std::move(message));
+    added_.notify_one();
+}
+
+void Inbox::RefuseNeedless(const Json& message) {
+    const bool isCancel = IsMethod(message, "$/cancelRequest");
+    const bool isChange = IsMethod(message, "textDocument/didChange");
+    if (!isCancel && !isChange) {
+        return;
+    }
+    const Json& what = isCancel ? At(At(message, "params"), "id") : UriOf(message);
+    for (Message& waiting : messages_) {
+        const Json& id = At(waiting.content, "id");
+        const bool isConcerned =
+            !id.is_null() && !what.is_null() && (isCancel ? id : UriOf(waiting.content)) == what;
+        if (isConcerned && !waiting.refusal) {
+            waiting.refusal =
+                isCancel ? RequestError(ErrorCode::RequestCancelled, "cancelled")
+                         : RequestError(ErrorCode::ContentModified, "the text has changed since");
+        }
+    }
+}
+
+void Inbox::Close() {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    isClosed_ = true;
+    added_.notify_one();
+}
+
+std::optional<Inbox::Message> Inbox::Take(std::optional<std::chrono::milliseconds> most) {
+    std::unique_lock<std::mutex> guard(mutex_);
+    const auto isReady = [this] { return !messages_.empty() || isClosed_; };
+    if (most) {
+        added_.wait_for(guard, *most, isReady);
+    } else {
+        added_.wait(guard, isReady);
+    }
+    if (messages_.empty()) {
+        return std::nullopt;
+    }
+    Message message = std::move(messages_.front());
+    messages_.pop_front();
+    taken_.notify_one();
+    return message;
+}
+
+bool Inbox::HasMessage() const {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    return !messages_.empty();
+}
+
+bool Inbox::IsAtEnd() const {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    return isClosed_ && messages_.empty();
+}
+
+}  // namespace lm_lsp

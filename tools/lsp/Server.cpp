@@ -1,0 +1,165 @@
+#include "lsp/Server.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "lsp/RequestError.h"
+#include "lsp/places.h"
+#include "lsp/uri.h"
+
+namespace lm_lsp {
+
+namespace {
+
+Json Capabilities() {
+    return {{"positionEncoding", "utf-16"},
+            {"textDocumentSync", {{"openClose", true}, {"change", 2}, {"save", true}}}};
+}
+
+/// Where relative paths begin.
+std::filesystem::path FolderOf(const Json& params) {
+    const auto uri = params.find("rootUri");
+    const auto path = uri != params.end() && uri->is_string()
+                          ? PathOfUri(uri->get_ref<const std::string&>())
+                          : std::nullopt;
+    return path.value_or(std::filesystem::path());
+}
+
+/// The member at the end of a path of names, or null.
+Json Find(const Json& value, const char* pointer) {
+    return value.value(Json::json_pointer(pointer), Json());
+}
+
+}  // namespace
+
+Server::Server(Host host)
+    : host_(std::move(host)),
+      diagnostics_(workspace_,
+                   {[this](const char* method, Json params) { Notify(method, std::move(params)); },
+                    host_.isAwaited}) {
+    AddLifecycle();
+    AddTexts();
+    AddFeatures();
+}
+
+void Server::AddLifecycle() {
+    dispatcher_.OnRequest("initialize", [this](const Json& params) { return Initialize(params); });
+    dispatcher_.OnRequest("shutdown", [this](const Json&) {
+        state_ = State::ShutDown;
+        wasShutDown_ = true;
+        return Json();
+    });
+}
+
+Json Server::Initialize(const Json& params) {
+    const auto options = params.find("initializationOptions");
+    workspace_ =
+        Workspace(ReadSettings(options != params.end() ? *options : Json(), FolderOf(params)));
+    takesSnippets_ =
+        Find(params, "/capabilities/textDocument/completion/completionItem/snippetSupport") == true;
+    diagnostics_.TouchTrees();
+    state_ = State::Running;
+    return {{"capabilities", Capabilities()},
+            {"serverInfo", {{"name", "localize"}, {"version", host_.version}}}};
+}
+
+void Server::AddTexts() {
+    dispatcher_.OnNotification("textDocument/didOpen", [this](const Json& params) {
+        const Json& document = params.at("textDocument");
+        const auto uri = document.at("uri").get<std::string>();
+        workspace_.Open(uri, {document.at("text").get<std::string>(), VersionOf(document)});
+        if (const auto path = PathOfUri(uri)) {
+            diagnostics_.Touch(*path);
+        }
+    });
+    dispatcher_.OnNotification("textDocument/didChange", [this](const Json& params) {
+        const Json& document = params.at("textDocument");
+        const auto uri = document.at("uri").get<std::string>();
+        OpenText* const text = workspace_.Find(uri);
+        if (text == nullptr) {
+            throw RequestError(ErrorCode::InvalidParams, "not open: " + uri);
+        }
+        text->Change(params.at("contentChanges"), VersionOf(document));
+        if (const auto path = PathOfUri(uri)) {
+            diagnostics_.Touch(*path);
+        }
+    });
+    dispatcher_.OnNotification("textDocument/didClose", [this](const Json& params) {
+        workspace_.Close(params.at("textDocument").at("uri").get<std::string>());
+        diagnostics_.TouchTrees();
+    });
+    for (const char* const method : {"textDocument/didSave", "workspace/didChangeWatchedFiles"}) {
+        dispatcher_.OnNotification(method, [this](const Json&) { diagnostics_.TouchTrees(); });
+    }
+}
+
+void Server::AddFeatures() {}
+
+void Server::Handle(const Inbox::Message& message) {
+    const Json& content = message.content;
+    const auto id = content.is_object() ? content.find("id") : content.end();
+    const bool hasId =
+        content.is_object() && id != content.end() && (id->is_string() || id->is_number_integer());
+    if (message.refusal) {
+        Refuse(hasId ? *id : Json(), *message.refusal);
+        return;
+    }
+    const auto method = content.is_object() ? content.find("method") : content.end();
+    if (!content.is_object() || (method != content.end() && !method->is_string())) {
+        Refuse(hasId ? *id : Json(), {ErrorCode::InvalidRequest, "the message is no request"});
+        return;
+    }
+    if (method == content.end()) {
+        return;  // a reply, though nothing was asked
+    }
+    static const Json none = Json::object();
+    const auto given = content.find("params");
+    const Json& params = given != content.end() && given->is_object() ? *given : none;
+    if (hasId) {
+        Answer(*id, method->get<std::string>(), params);
+    } else {
+        Note(method->get<std::string>(), params);
+    }
+}
+
+void Server::Answer(const Json& id, const std::string& method, const Json& params) {
+    const bool isFirst = method == "initialize";
+    if (state_ == State::New && !isFirst) {
+        Refuse(id, {ErrorCode::NotInitialized, "initialize comes first"});
+    } else if (state_ == State::ShutDown || (state_ == State::Running && isFirst)) {
+        Refuse(id, {ErrorCode::InvalidRequest, "too late for " + method});
+    } else {
+        try {
+            host_.send(
+                {{"jsonrpc", "2.0"}, {"id", id}, {"result", dispatcher_.Ask(method, params)}});
+        } catch (const RequestError& error) {
+            Refuse(id, error);
+        }
+    }
+}
+
+void Server::Note(const std::string& method, const Json& params) {
+    if (method == "exit") {
+        state_ = State::Over;
+    }
+    if (state_ != State::Running) {
+        return;
+    }
+    try {
+        dispatcher_.Tell(method, params);
+    } catch (const RequestError& error) {
+        Notify("window/logMessage", {{"type", 1}, {"message", method + ": " + error.what()}});
+    }
+}
+
+void Server::Refuse(const Json& id, const RequestError& error) {
+    host_.send({{"jsonrpc", "2.0"},
+                {"id", id},
+                {"error", {{"code", static_cast<int>(error.Code())}, {"message", error.what()}}}});
+}
+
+void Server::Notify(const char* method, Json params) {
+    host_.send({{"jsonrpc", "2.0"}, {"method", method}, {"params", std::move(params)}});
+}
+
+}  // namespace lm_lsp
