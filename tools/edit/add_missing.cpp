@@ -7,7 +7,7 @@
 
 #include "TreeLayout.h"
 #include "edit/append.h"
-#include "edit/format.h"
+#include "edit/plural_forms.h"
 #include "edit/read_document.h"
 #include "plural/culture_rule.h"
 #include "source/Document.h"
@@ -20,50 +20,17 @@ namespace lm_edit {
 namespace layout = LocalizationManager::File;
 using lm_source::Document;
 using lm_source::Entry;
-using lm_source::Operand;
-using lm_source::OperandKind;
-using lm_source::Value;
 
 namespace {
-
-/// A value with another number of forms: too few are filled up with the last one, which serves most
-/// numbers, and of too many the last one is kept.
-std::string WithForms(const Document& document, Value value, std::size_t count) {
-    std::string text;
-    for (const Operand& operand : value) {
-        text += text.empty() ? "" : " + ";
-        if (operand.kind != OperandKind::PluralForm) {
-            text += document.Bytes(operand.range);
-            continue;
-        }
-        const std::vector<Value> forms = FormsOf(operand);
-        text += "{$" + std::string(document.Name(operand)) + ": ";
-        for (std::size_t form = 0; form < count; ++form) {
-            const bool isLast = form + 1 >= std::min(count, forms.size());
-            text += (form == 0 ? "" : ", ") +
-                    WithForms(document, isLast ? forms.back() : forms[form], count);
-        }
-        text += '}';
-    }
-    return text;
-}
-
-/// An untranslated entry, in the one style.
-std::string EntryText(const Document& reference, const Entry& entry, std::size_t forms,
-                      std::string_view lineBreak) {
-    std::string text(lm_source::kUntranslatedComment);
-    text.append(lineBreak).append(reference.Key(entry)).append(" = ");
-    text.append(WithForms(reference, reference.ValueOf(entry), forms)).append(lineBreak);
-    return Format(Document(std::move(text)));
-}
 
 class Search {
 public:
     Search(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
-           const lm_tree::CultureName& reference)
+           const lm_tree::CultureName& reference, const std::vector<std::string>& keys)
         : tree_(tree),
           culture_(culture),
           reference_(reference),
+          keys_(keys),
           forms_(lm_plural::RuleOf(&tree, culture).rule.FormCount()),
           common_(OwnTexts(lm_tree::CommonScope())),
           referenceCommon_(TextsOf(tree.Answer(reference, lm_tree::CommonScope()))) {}
@@ -119,18 +86,26 @@ private:
             const bool isCommon = scope != lm_tree::CommonScope() && common_ &&
                                   common_->Find(key) != nullptr &&
                                   !(referenceCommon_ && referenceCommon_->Find(key) != nullptr);
-            if (own.Find(key) == nullptr && !isCommon) {
+            if (own.Find(key) == nullptr && !isCommon && IsAsked(reference, key)) {
                 lacking.push_back(&entry);
             }
         }
         return lacking;
     }
 
+    bool IsAsked(const Document& reference, std::string_view key) const {
+        return keys_.empty() || std::any_of(keys_.begin(), keys_.end(), [&](const auto& asked) {
+                   return reference.LowerKey(asked) == reference.LowerKey(key);
+               });
+    }
+
     void Add(const std::string& scope, const Document& own, const Document& reference,
              const std::vector<const Entry*>& lacking, bool isNew) {
+        const std::string_view lineBreak = LineBreakOf(own);
         std::string entries;
         for (const Entry* const entry : lacking) {
-            entries += EntryText(reference, *entry, forms_, LineBreakOf(own));
+            entries.append(lm_source::kUntranslatedComment).append(lineBreak);
+            entries += EntryWithForms(reference, *entry, forms_, lineBreak);
         }
         std::string text = lm_source::Apply(own.Bytes(), {Appended(own, entries)});
         if (!Document(text).Mistakes().empty()) {
@@ -151,6 +126,7 @@ private:
     const lm_tree::Tree& tree_;
     const lm_tree::CultureName& culture_;
     const lm_tree::CultureName& reference_;
+    const std::vector<std::string>& keys_;
     const std::size_t forms_;
     const std::optional<Document> common_;
     const std::optional<Document> referenceCommon_;
@@ -161,7 +137,8 @@ private:
 
 MissingKeys AddMissing(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
                        const lm_tree::CultureName& reference,
-                       const std::vector<std::string>& scopes) {
+                       const std::vector<std::string>& scopes,
+                       const std::vector<std::string>& keys) {
     std::vector<std::string> known = tree.ScopesOf(reference);
     known.insert(known.begin(), lm_tree::CommonScope());
     for (const std::string& scope : scopes) {
@@ -170,7 +147,7 @@ MissingKeys AddMissing(const lm_tree::Tree& tree, const lm_tree::CultureName& cu
                                         scope + "'");
         }
     }
-    Search search(tree, culture, reference);
+    Search search(tree, culture, reference, keys);
     for (const std::string& scope : known) {
         if (scopes.empty() || scope == lm_tree::CommonScope() ||
             std::find(scopes.begin(), scopes.end(), scope) != scopes.end()) {

@@ -1,9 +1,16 @@
 #include "lsp/Server.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
+#include "edit/format.h"
 #include "lsp/RequestError.h"
+#include "lsp/code_actions.h"
+#include "lsp/completion.h"
+#include "lsp/hover.h"
+#include "lsp/key_uses.h"
+#include "lsp/outline.h"
 #include "lsp/places.h"
 #include "lsp/uri.h"
 
@@ -13,7 +20,17 @@ namespace {
 
 Json Capabilities() {
     return {{"positionEncoding", "utf-16"},
-            {"textDocumentSync", {{"openClose", true}, {"change", 2}, {"save", true}}}};
+            {"textDocumentSync", {{"openClose", true}, {"change", 2}, {"save", true}}},
+            {"hoverProvider", true},
+            {"completionProvider", {{"triggerCharacters", {"$", "{"}}}},
+            {"definitionProvider", true},
+            {"referencesProvider", true},
+            {"documentSymbolProvider", true},
+            {"workspaceSymbolProvider", true},
+            {"foldingRangeProvider", true},
+            {"documentFormattingProvider", true},
+            {"renameProvider", {{"prepareProvider", true}}},
+            {"codeActionProvider", {{"codeActionKinds", {"quickfix"}}}}};
 }
 
 /// Where relative paths begin.
@@ -93,7 +110,46 @@ void Server::AddTexts() {
     }
 }
 
-void Server::AddFeatures() {}
+void Server::AddFeatures() {
+    OnText("textDocument/documentSymbol",
+           [](const Target& target, const Json&) { return DocumentSymbols(target); });
+    OnText("textDocument/foldingRange",
+           [](const Target& target, const Json&) { return FoldingRanges(target); });
+    OnText("textDocument/formatting", [](const Target& target, const Json&) {
+        return EditsBetween(target.Document().Bytes(), lm_edit::Format(target.Document()));
+    });
+    OnText("textDocument/codeAction", [](const Target& target, const Json& params) {
+        const Json& range = params.at("range");
+        const auto [begin, end] =
+            std::minmax({target.OffsetOf(range.at("start")), target.OffsetOf(range.at("end"))});
+        return CodeActionsFor(target, {begin, end});
+    });
+    OnPlace("textDocument/hover", [this](const Target& target, std::uint32_t offset, const Json&) {
+        return HoverAt(target, offset, host_.ask);
+    });
+    OnPlace("textDocument/completion",
+            [this](const Target& target, std::uint32_t offset, const Json&) {
+                return CompletionAt(target, offset, takesSnippets_);
+            });
+    OnPlace("textDocument/definition", [](const Target& target, std::uint32_t offset, const Json&) {
+        return DefinitionAt(target, offset);
+    });
+    OnPlace("textDocument/references", [](const Target& target, std::uint32_t offset,
+                                          const Json& params) {
+        return ReferencesAt(target, offset, Find(params, "/context/includeDeclaration") == true);
+    });
+    OnPlace("textDocument/prepareRename",
+            [](const Target& target, std::uint32_t offset, const Json&) {
+                return RenamePlaceAt(target, offset);
+            });
+    OnPlace("textDocument/rename",
+            [](const Target& target, std::uint32_t offset, const Json& params) {
+                return RenameAt(target, offset, params.at("newName").get<std::string>());
+            });
+    dispatcher_.OnRequest("workspace/symbol", [this](const Json& params) {
+        return WorkspaceSymbols(workspace_, params.at("query").get<std::string>());
+    });
+}
 
 void Server::Handle(const Inbox::Message& message) {
     const Json& content = message.content;

@@ -64,6 +64,14 @@ private:
         });
     }
 
+    /// A request about a place of a text.
+    template <class Handler>
+    void OnPlace(const char* method, Handler answer) {
+        OnText(method, [answer](const Target& target, const Json& params) -> Json {
+            return answer(target, target.OffsetOf(params.at("position")), params);
+        });
+    }
+
     Host host_;
     State state_ = State::New;
     bool wasShutDown_ = false;
