@@ -6,11 +6,11 @@
 
 #include "ScopeFiles.h"
 #include "UsageError.h"
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/write_whole.h"
 #include "read_text.h"
 #include "scope_catalog.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize_po {
@@ -46,7 +46,7 @@ bool Export(const ExportSettings& settings) {
     if (!settings.isTemplate) {
         culture = localize::RequestedCulture(settings.culture);
     }
-    const lm_tree::CultureName reference = localize::ReferenceOr(tree, settings.reference);
+    const lm_tree::CultureName reference = lm_tree::ChooseReference(tree, settings.reference);
     for (const ScopeFiles::File& file : settings.files.Files(tree.ScopesOf(reference))) {
         const lm_exchange::ScopeTexts texts(tree, culture, reference, file.scope);
         const Catalog catalog =

@@ -5,11 +5,11 @@
 #include <stdexcept>
 
 #include "ScopeFiles.h"
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/unified_diff.h"
 #include "edit/write_whole.h"
 #include "import_catalog.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize_po {
@@ -55,7 +55,7 @@ public:
           root_(lm_tree::PathOf(settings.root)),
           tree_(root_, {}),
           culture_(localize::RequestedCulture(settings.culture)),
-          reference_(localize::ReferenceOr(tree_, settings.reference)) {}
+          reference_(lm_tree::ChooseReference(tree_, settings.reference)) {}
 
     /// Nothing is written unless all files are good.
     bool Run() {
