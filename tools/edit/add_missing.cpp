@@ -140,6 +140,9 @@ MissingKeys AddMissing(const lm_tree::Tree& tree, const lm_tree::CultureName& cu
                        const std::vector<std::string>& scopes,
                        const std::vector<std::string>& keys) {
     std::vector<std::string> known = tree.ScopesOf(reference);
+    if (known.empty() && !tree.Answer(reference, lm_tree::CommonScope())) {
+        throw std::invalid_argument("the reference '" + reference.name + "' has no texts");
+    }
     known.insert(known.begin(), lm_tree::CommonScope());
     for (const std::string& scope : scopes) {
         if (std::find(known.begin(), known.end(), scope) == known.end()) {

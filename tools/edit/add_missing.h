@@ -22,7 +22,7 @@ struct MissingKeys {
 /// untranslated. A file that nobody but the neutral texts stands in for is made.
 /// @param scopes  empty for all of the reference; the common one is always among them.
 /// @param keys    empty for all that lack.
-/// @throws std::invalid_argument for a scope that the reference does not have.
+/// @throws std::invalid_argument for a reference without texts, and for a scope that it does not have.
 /// @throws std::runtime_error when a file cannot be read or has a mistake.
 MissingKeys AddMissing(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
                        const lm_tree::CultureName& reference,

@@ -47,7 +47,8 @@ public:
                                         "with letters, digits, '_' and '.'");
         }
         bool isThere = false;
-        const bool isOtherKey = written.LowerKey(key_.before) != written.LowerKey(key_.after);
+        const bool isOtherKey = key_.before == key_.after ||
+                                written.LowerKey(key_.before) != written.LowerKey(key_.after);
         for (const auto& [file, document] : documents_) {
             isThere = isThere || (IsOfScope(file) && Has(file, key_.before));
             if (isOtherKey && Has(file, key_.after)) {

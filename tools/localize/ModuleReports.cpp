@@ -23,10 +23,6 @@ bool IsGenerated(std::string_view name) {
            });
 }
 
-std::string ShownName(const std::string& file) {
-    return file == kStandardInput ? "(standard input)" : file;
-}
-
 }  // namespace
 
 ModuleReports::ModuleReports(const RequestSettings& settings)

@@ -34,10 +34,10 @@ fs::path TreeOf(const fs::path& file) {
 bool FormatFile(const FormatSettings& settings, const std::string& file) {
     const lm_source::Document document(ReadBytes(file));
     if (document.GetEncoding().isUtf16) {
-        throw std::runtime_error(file + ": is UTF-16: save it as UTF-8");
+        throw std::runtime_error(ShownName(file) + ": is UTF-16: save it as UTF-8");
     }
     if (!document.Mistakes().empty()) {
-        throw std::runtime_error(TextOf(document, document.Mistakes().front(), file));
+        throw std::runtime_error(TextOf(document, document.Mistakes().front(), ShownName(file)));
     }
     const std::string formatted = lm_edit::Format(document);
     const bool isInStyle = formatted == document.Bytes();

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 #include "Answers.h"
 #include "UsageError.h"
@@ -68,11 +69,8 @@ public:
 
     /// @return whether no file has a mistake.
     bool Print() {
-        for (const std::string& name : settings_.cultures) {
-            PrintCulture(lm_tree::NamedCulture(name));
-        }
-        if (settings_.cultures.empty()) {
-            PrintCulture(ChooseReference(tree_, ""));
+        for (const auto& [culture, file] : Answers()) {
+            PrintFile(culture, file);
         }
         if (settings_.json) {
             std::cout << (isFirst_ ? kBegin : "\n") << "]}\n";
@@ -81,24 +79,49 @@ public:
     }
 
 private:
-    void PrintCulture(const lm_tree::CultureName& culture) {
-        std::vector<std::string> scopes = settings_.scopes;
-        if (scopes.empty()) {
-            scopes = tree_.ScopesOf(culture);
-            scopes.insert(scopes.begin(), lm_tree::CommonScope());
+    std::vector<lm_tree::CultureName> Cultures() const {
+        std::vector<lm_tree::CultureName> cultures;
+        for (const std::string& name : settings_.cultures) {
+            cultures.push_back(lm_tree::NamedCulture(name));
         }
-        for (const std::string& scope : scopes) {
-            if (const auto file = tree_.Answer(culture, scope)) {
-                PrintFile(culture, *file);
-            } else if (!settings_.scopes.empty()) {
-                throw UsageError("'" + culture.name + "' has no scope '" + scope + "'");
+        if (cultures.empty()) {
+            cultures.push_back(ChooseReference(tree_, ""));
+        }
+        return cultures;
+    }
+
+    /// All that will be printed, before anything is.
+    std::vector<std::pair<lm_tree::CultureName, lm_tree::FileId>> Answers() const {
+        std::vector<std::pair<lm_tree::CultureName, lm_tree::FileId>> answers;
+        for (const lm_tree::CultureName& culture : Cultures()) {
+            std::vector<std::string> scopes = settings_.scopes;
+            if (scopes.empty()) {
+                scopes = tree_.ScopesOf(culture);
+                scopes.insert(scopes.begin(), lm_tree::CommonScope());
+            }
+            for (const std::string& scope : scopes) {
+                if (const auto file = tree_.Answer(culture, scope)) {
+                    answers.emplace_back(culture, *file);
+                } else if (!settings_.scopes.empty()) {
+                    throw UsageError("'" + culture.name + "' has no scope '" + scope + "'");
+                }
             }
         }
+        return answers;
     }
 
     void PrintFile(const lm_tree::CultureName& culture, lm_tree::FileId file) {
-        const Document document(tree_.Read(file));
         const std::string path = lm_tree::Utf8Of(tree_.FullPath(file));
+        try {
+            PrintDocument(culture, file, path, Document(tree_.Read(file)));
+        } catch (const std::runtime_error& unreadable) {
+            isWhole_ = false;
+            std::cerr << "localize: '" << path << "' " << unreadable.what() << '\n';
+        }
+    }
+
+    void PrintDocument(const lm_tree::CultureName& culture, lm_tree::FileId file,
+                       const std::string& path, const Document& document) {
         for (const lm_source::Entry& entry : document.Entries()) {
             const Parts parts(document, entry);
             const std::uint32_t line = document.PlaceOf(entry.key.begin).line;
@@ -163,7 +186,7 @@ void AddListCommand(CLI::App& app, Task& chosen) {
         {"list",
          "Print keys: scope, key, file and line, parameters, references, plural forms, with tabs "
          "between them",
-         "0 all printed, 1 a file has mistakes, 2 could not run",
+         "0 all printed, 1 a file has mistakes or cannot be read, 2 could not run",
          "localize list --root texts --culture de --scope main"},
         ThatRuns([settings] { return List(*settings).Print(); }));
     AddRoot(list, settings->root);

@@ -8,6 +8,11 @@ namespace localize {
 /// The name that stands for standard input.
 inline constexpr const char* kStandardInput = "-";
 
+/// How reports name a file.
+inline std::string ShownName(const std::string& file) {
+    return file == kStandardInput ? "(standard input)" : file;
+}
+
 /// @param file  "-" for standard input.
 /// @throws std::runtime_error, with the system's reason, when it cannot be read.
 std::string ReadBytes(const std::string& file);

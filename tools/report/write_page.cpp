@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 #include <set>
+#include <stdexcept>
 
 #include "report/States.h"
 #include "report/html.h"
@@ -89,7 +90,7 @@ private:
             if (!file) {
                 continue;
             }
-            const Document document(page_.tree.Read(*file));
+            const Document document(BytesOf(*file));
             for (const lm_source::Entry& entry : document.Entries()) {
                 if (document.Find(document.Key(entry)) == &entry) {
                     html += KeyHtml(scope, std::string(document.Key(entry)));
@@ -97,6 +98,13 @@ private:
             }
         }
         return html;
+    }
+
+    /// A file that cannot be read has no keys; it is among the findings.
+    std::string BytesOf(lm_tree::FileId file) const try {
+        return page_.tree.Read(file);
+    } catch (const std::runtime_error&) {
+        return {};
     }
 
     std::string KeyHtml(std::size_t scope, const std::string& key) {

@@ -50,6 +50,7 @@ public:
             return errno == ENOENT;
         }
         if (!S_ISREG(old.st_mode)) {
+            errno = S_ISDIR(old.st_mode) ? EISDIR : EINVAL;
             return S_ISLNK(old.st_mode);
         }
         constexpr mode_t kPermissions = 07777;
@@ -91,7 +92,6 @@ std::error_code WriteFileWhole(const std::filesystem::path& path, std::string_vi
     if (!beside.IsOpen()) {
         return LastError();
     }
-    errno = EINVAL;  // of what is neither a file nor a link
     if (!beside.TakeAfter(path.c_str()) || !beside.Write(bytes) || !beside.Replace(path.c_str())) {
         return LastError();
     }

@@ -57,7 +57,10 @@ fs::path Final(const fs::path& path, std::error_code& error) {
 }  // namespace
 
 fs::path ResolveLinks(const fs::path& path, std::error_code& error) {
-    fs::path there = fs::absolute(path);
+    fs::path there = fs::absolute(path, error);
+    if (error) {
+        return {};
+    }
     fs::path further;
     for (;;) {
         const fs::path final = Final(there, error);
