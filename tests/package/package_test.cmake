@@ -33,6 +33,9 @@ file(GLOB_RECURSE component_headers ${WORK}/moved/include/qor/rtl/*)
 expect("${component_headers}" "")
 
 if(TOOLCHAIN)
+    run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/keys -B ${WORK}/keys -G ${GENERATOR} ${finding}
+        -D TREE=${SAMPLES}/tree)
+    run(${CMAKE_COMMAND} --build ${WORK}/keys)
     return()  # the rest is not made for other systems yet
 endif()
 
