@@ -9,7 +9,7 @@
 
 namespace localize {
 
-/// @param named  files, which are taken for C where the extension says nothing else, and directories, of which
+/// @param named  files, which are read as C where the extension says nothing else, and directories, of which
 ///               the sources below them are taken; not those in hidden directories.
 /// @return each once, in the order in which they are named, and of a directory in the order of their paths.
 /// @throws std::runtime_error when a directory cannot be read, or all of them have no source.
