@@ -1,4 +1,6 @@
-# Installs module, library for C, headers and tool, and the package that find_package(localization_manager) takes.
+# Installs module, library for C, headers, tool, documents and samples, and the package that
+# find_package(localization_manager) takes. Each part is a component, of which cmake/packages.cmake makes a
+# package.
 include(CMakePackageConfigHelpers)
 include(cmake/host_program.cmake)
 
@@ -9,22 +11,18 @@ set(module_dir ${CMAKE_INSTALL_LIBDIR})
 if(WIN32)
     set(module_dir ${CMAKE_INSTALL_BINDIR})  # beside the programs, which look for it there
 endif()
-set(libraries localization_manager lm_host)
-set(headers delivery_include/ src/Platform/${LM_PLATFORM}/public/)
-set(pkgconfig_packages localization_manager)
-if(TARGET localization_manager_c)
-    list(APPEND libraries localization_manager_c)
-    list(APPEND headers bindings/c/include/)
-    list(APPEND pkgconfig_packages localization_manager_c)
-endif()
-install(TARGETS ${libraries} EXPORT localization_manager
-    LIBRARY DESTINATION ${module_dir})
-install(EXPORT localization_manager
+install(TARGETS localization_manager lm_host EXPORT localization_manager
+    LIBRARY DESTINATION ${module_dir} COMPONENT tool)
+install(TARGETS localization_manager_c EXPORT localization_manager
+    RUNTIME DESTINATION ${module_dir} COMPONENT c
+    LIBRARY DESTINATION ${module_dir} COMPONENT c NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(EXPORT localization_manager COMPONENT development
     NAMESPACE localization_manager:: DESTINATION ${package_dir} FILE localization_manager-targets.cmake)
 
 # Without the parts of the framework that only the module is made of.
-install(DIRECTORY ${headers}
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+install(DIRECTORY delivery_include/ src/Platform/${LM_PLATFORM}/public/ bindings/c/include/
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
     FILES_MATCHING PATTERN *.h PATTERN rtl EXCLUDE)
 
 configure_package_config_file(
@@ -38,7 +36,7 @@ install(FILES
     ${PROJECT_BINARY_DIR}/localization_manager-config.cmake
     ${PROJECT_BINARY_DIR}/localization_manager-config-version.cmake
     cmake/localization_manager-keys.cmake
-    DESTINATION ${package_dir})
+    DESTINATION ${package_dir} COMPONENT development)
 
 file(RELATIVE_PATH LM_PREFIX_FROM_PKGCONFIG
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
@@ -46,26 +44,28 @@ set(LM_DL_FLAGS)
 if(CMAKE_DL_LIBS)
     set(LM_DL_FLAGS -l${CMAKE_DL_LIBS})
 endif()
-foreach(package ${pkgconfig_packages})
+foreach(package localization_manager localization_manager_c)
     configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endforeach()
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+# In the places that they have in the project, since they refer to each other.
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT tool)
+install(DIRECTORY docs samples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT tool
+    REGEX /samples/CMakeLists.txt$ EXCLUDE)
+install(FILES bindings/python/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/bindings/python COMPONENT tool)
 
 if(TARGET localize)
-    install(TARGETS localize EXPORT localization_manager)
-    install(FILES tools/localize/localize.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(TARGETS localize EXPORT localization_manager COMPONENT tool)
+    install(FILES tools/localize/localize.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
     install(FILES tools/localize/completion/localize
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
 endif()
 
-# What `cpack` packs: all of the above in one archive, with the name of the system.
-set(CPACK_GENERATOR TGZ)
-set(CPACK_SYSTEM_NAME ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
-if(WIN32)
-    set(CPACK_GENERATOR ZIP)
-    math(EXPR bits "8 * ${CMAKE_SIZEOF_VOID_P}")
-    set(CPACK_SYSTEM_NAME windows${bits})
-endif()
-set(CPACK_PACKAGE_VENDOR ${PROJECT_NAME})
-include(CPack)
+# Where the packages of Debian have it; elsewhere pip installs it.
+install(DIRECTORY bindings/python/localization_manager DESTINATION lib/python3/dist-packages
+    COMPONENT python EXCLUDE_FROM_ALL
+    PATTERN __pycache__ EXCLUDE)
+
+include(cmake/packages.cmake)
