@@ -26,6 +26,10 @@ if [ "$1" = --in-root ]; then
     in_root python3 "$samples/album/album.py" "$samples/tree" de </dev/null | grep -x '3 Fotos' >/dev/null
     in_root zcat /usr/share/man/man1/localize.1.gz | grep '^\.TH LOCALIZE' >/dev/null
     in_root bash -n /usr/share/bash-completion/completions/localize
+    documents="$root/usr/share/doc/localization-manager"
+    grep -roE '\]\([^):#]+' --include='*.md' "$documents" | while IFS=: read -r file link; do
+        [ -e "$(dirname "$file")/${link#](}" ] || { echo "$file refers to ${link#](}" >&2; exit 1; }
+    done
 
     echo "-- what a programmer installs"
     install liblocalization-manager-dev g++ cmake make pkg-config
