@@ -63,6 +63,11 @@ if(TARGET localize)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
 endif()
 
+if(TARGET localize-po)
+    install(TARGETS localize-po COMPONENT po)
+    install(FILES tools/localize-po/localize-po.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT po)
+endif()
+
 # Where the packages of Debian have it; elsewhere pip installs it.
 install(DIRECTORY bindings/python/localization_manager DESTINATION lib/python3/dist-packages
     COMPONENT python EXCLUDE_FROM_ALL

@@ -20,6 +20,9 @@ else()
 endif()
 
 set(CPACK_COMPONENTS_ALL tool c development python)
+if(TARGET localize-po)
+    list(APPEND CPACK_COMPONENTS_ALL po)
+endif()
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has its own
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -76,5 +79,13 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA
 set(CPACK_DEBIAN_PYTHON_DESCRIPTION "localised texts for programs: package for Python
 ${about}
 This package has the module localization_manager for Python 3.")
+
+set(CPACK_DEBIAN_PO_PACKAGE_NAME localization-manager-po)
+set(CPACK_DEBIAN_PO_PACKAGE_SECTION text)
+set(CPACK_DEBIAN_PO_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PO_DESCRIPTION "localised texts for programs: exchange with translators
+${about}
+This package has localize-po, which writes texts as PO files and takes them
+back.")
 
 include(CPack)

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -92,7 +93,8 @@ private:
 };
 
 /// What the library does not look at.
-void RequireWholeText(const std::string& path) {
+/// @return whether the last line ends.
+bool RequireUtf8(const std::string& path) {
     const std::string bytes = localize::ReadBytes(path);
     const lm_source::Encoding encoding = lm_source::EncodingOf(bytes);
     if (encoding.isUtf16 || !encoding.illFormed.empty()) {
@@ -101,9 +103,7 @@ void RequireWholeText(const std::string& path) {
     if (bytes.find('\0') != std::string::npos) {
         throw std::runtime_error("'" + path + "' has a zero character and is no PO file");
     }
-    if (bytes.empty() || bytes.back() != '\n') {
-        throw std::runtime_error("'" + path + "' is not whole: its last line does not end");
-    }
+    return !bytes.empty() && bytes.back() == '\n';
 }
 
 std::string TextOf(const char* text) {
@@ -145,6 +145,11 @@ CatalogEntry EntryOf(po_message_t message) {
     }
     entry.isFuzzy = po_message_is_fuzzy(message) != 0;
     entry.isObsolete = po_message_is_obsolete(message) != 0;
+    static constexpr std::array<const char*, 6> kPrintfs = {
+        "c-format", "objc-format", "php-format", "python-format", "perl-format", "lua-format"};
+    entry.isPrintf = std::any_of(kPrintfs.begin(), kPrintfs.end(), [message](const char* format) {
+        return po_message_is_format(message, format) != 0;
+    });
     entry.comments = LinesOf(TextOf(po_message_extracted_comments(message)));
     return entry;
 }
@@ -221,9 +226,10 @@ Catalog::Catalog(const std::string& header)
 }
 
 Catalog Catalog::Read(const std::string& path) {
-    RequireWholeText(path);
+    const bool endsWithLine = RequireUtf8(path);
     const Complaints complaints;
     Catalog catalog(po_file_read(path.c_str(), Complaints::Handler()));
+    catalog.endsWithLine_ = endsWithLine;
     if (!catalog.file_) {
         throw std::runtime_error("cannot read '" + path +
                                  "': " + std::generic_category().message(errno));
@@ -236,7 +242,7 @@ Catalog Catalog::Read(const std::string& path) {
     std::transform(charset.begin(), charset.end(), charset.begin(), [](char unit) {
         return unit >= 'A' && unit <= 'Z' ? static_cast<char>(unit - 'A' + 'a') : unit;
     });
-    if (charset != "charset=utf-8") {
+    if (charset != "charset=utf-8" && charset != "charset=charset") {  // as templates have it
         throw std::runtime_error("'" + path + "': the header says '" + type +
                                  "': convert the file with 'msgconv -t UTF-8'");
     }

@@ -19,9 +19,11 @@ public:
     /// @param header  lines "Field: value".
     explicit Catalog(const std::string& header);
 
-    /// @throws std::runtime_error when the file cannot be read, or is no PO file in UTF-8, or does not
-    ///         end with its last line.
+    /// @throws std::runtime_error when the file cannot be read, or is no PO file in UTF-8.
     static Catalog Read(const std::string& path);
+
+    /// Whether the last line is one; what was cut off may end anywhere.
+    bool EndsWithLine() const noexcept { return endsWithLine_; }
 
     /// A field of the header; empty when it is not there.
     std::string HeaderField(const char* name) const;
@@ -48,6 +50,7 @@ private:
     explicit Catalog(po_file* file);
 
     std::unique_ptr<po_file, Close> file_;
+    bool endsWithLine_ = true;
     Place end_;  // behind what was added
 };
 

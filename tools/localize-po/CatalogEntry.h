@@ -15,6 +15,7 @@ struct CatalogEntry {
     std::vector<std::string> translations;  // one, or each form; empty texts where there is none
     bool isFuzzy = false;
     bool isObsolete = false;
+    bool isPrintf = false;  // marked as a format of C, or of a language that has it from there
     std::vector<std::string> comments;  // extracted ones, each a line
     std::string file;                   // that it stands in; none when empty
 };

@@ -19,6 +19,7 @@ public:
 
 private:
     friend class PluralExpressionReader;
+    friend class RuleFileWriter;
 
     enum class Op : std::uint8_t {
         Number,

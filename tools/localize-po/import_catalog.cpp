@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "languages.h"
 #include "plural_forms.h"
 #include "scope_catalog.h"
 #include "tree/ascii_case.h"
@@ -107,6 +108,9 @@ private:
 
     /// What was translated when the file was written is in it, unless its end is lost.
     void RequireWhole() const {
+        if (!catalog_.EndsWithLine()) {
+            throw std::runtime_error("it is not whole: its last line does not end");
+        }
         for (const CatalogEntry& entry : entries_) {
             if (entry.pluralId && !entry.isObsolete &&
                 entry.translations.size() != texts_.FormCount()) {

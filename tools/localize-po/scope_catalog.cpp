@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "CultureNames.h"
+#include "languages.h"
 #include "plural_forms.h"
 #include "source/Encoding.h"
 
@@ -35,17 +35,6 @@ bool CanTravel(const CatalogEntry& entry) {
 }
 
 }  // namespace
-
-std::string LanguageOf(const lm_tree::CultureName& culture) {
-    std::string language = localization_manager::LanguageToIsoName(culture.culture->language);
-    std::replace(language.begin(), language.end(), '-', '_');
-    std::string region(culture.culture->region.c_str());
-    std::transform(region.begin(), region.end(), region.begin(), [](char unit) {
-        return unit >= 'a' && unit <= 'z' ? static_cast<char>(unit - 'a' + 'A') : unit;
-    });
-    const std::string variant(culture.culture->variant.c_str());
-    return language + (region.empty() ? "" : '_' + region) + (variant.empty() ? "" : '@' + variant);
-}
 
 std::string ContextOf(const std::string& scope, const ScopeTexts::Text& text, const Unit& unit) {
     return scope + '|' + text.key + (unit.number.empty() ? "" : '|' + unit.number);

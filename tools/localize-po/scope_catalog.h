@@ -13,9 +13,6 @@
 
 namespace localize_po {
 
-/// The name that PO files have for a culture: "pt_BR", "zh_Hans", "de_AT@variant".
-std::string LanguageOf(const lm_tree::CultureName& culture);
-
 /// How a unit is called: the scope, "|" and the key; of a plural form among others also its number.
 std::string ContextOf(const std::string& scope, const lm_exchange::ScopeTexts::Text& text,
                       const lm_exchange::Unit& unit);
