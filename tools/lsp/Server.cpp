@@ -122,7 +122,7 @@ void Server::AddFeatures() {
         const Json& range = params.at("range");
         const auto [begin, end] =
             std::minmax({target.OffsetOf(range.at("start")), target.OffsetOf(range.at("end"))});
-        return CodeActionsFor(target, {begin, end});
+        return CodeActionsFor(target, {begin, end}, Find(params, "/context/diagnostics"));
     });
     OnPlace("textDocument/hover", [this](const Target& target, std::uint32_t offset, const Json&) {
         return HoverAt(target, offset, host_.ask);

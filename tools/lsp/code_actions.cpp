@@ -13,6 +13,7 @@
 #include "edit/plural_forms.h"
 #include "lsp/Diagnostics.h"
 #include "lsp/places.h"
+#include "source/comments.h"
 #include "source/edits.h"
 
 namespace lm_lsp {
@@ -61,6 +62,17 @@ public:
     Actions(const Target& target, Range range)
         : target_(target), document_(target.Document()), range_(range) {}
 
+    /// That a comment matches nothing is known of the tree as a whole only: the editor has been told.
+    void AddKnown(const Json& diagnostics) {
+        for (const Json& diagnostic : diagnostics) {
+            const bool isUnused =
+                diagnostic.value("code", Json()) == lm_check::InfoOf(Rule::UnusedSuppression).name;
+            if (isUnused) {
+                RemoveSuppression(target_.OffsetOf(diagnostic.at("range").at("start")));
+            }
+        }
+    }
+
     Json Find() {
         if (target_.InTree()->CulturesOf(target_.File()).empty()) {
             return std::move(actions_);
@@ -97,7 +109,7 @@ private:
                       {{{finding.location.range.begin, finding.location.range.begin}, "\\"}});
                 break;
             case Rule::UnusedSuppression:
-                RemoveSuppression(finding);
+                RemoveSuppression(finding.location.range.begin);
                 return;
             case Rule::Stale:
                 Accept(finding);
@@ -308,8 +320,15 @@ private:
     }
 
     /// A comment that names one rule goes as a whole, with its line if it has one of its own.
-    void RemoveSuppression(const Finding& finding) {
-        Range comment = finding.location.range;
+    void RemoveSuppression(std::uint32_t begin) {
+        const auto comments = CommentsOf(document_);
+        const auto found =
+            std::find_if(comments.begin(), comments.end(),
+                         [begin](const auto& comment) { return comment.range.begin == begin; });
+        if (found == comments.end()) {
+            return;  // the text has changed since
+        }
+        Range comment = found->range;
         if (document_.Bytes(comment).find(',') != std::string_view::npos) {
             return;  // which of its rules is meant, only the message says
         }
@@ -352,8 +371,13 @@ private:
 
 }  // namespace
 
-Json CodeActionsFor(const Target& target, Range range) {
-    return target.InTree() != nullptr ? Actions(target, range).Find() : Json::array();
+Json CodeActionsFor(const Target& target, Range range, const Json& diagnostics) {
+    if (target.InTree() == nullptr) {
+        return Json::array();
+    }
+    Actions actions(target, range);
+    actions.AddKnown(diagnostics);
+    return actions.Find();
 }
 
 }  // namespace lm_lsp

@@ -148,13 +148,25 @@ private:
     void AddKeysOf(const Document& document, char rank) {
         for (const Entry& entry : document.Entries()) {
             std::string key(document.Key(entry));
-            if (entry.key.end != offset_ && known_.insert(document.LowerKey(entry)).second) {
+            if (known_.insert(document.LowerKey(entry)).second) {
                 Add(key, kReference, rank, key, {{"detail", SourceOf(document, entry)}});
             }
         }
     }
 
+    /// The last entry that begins before the place; null for none.
+    const Entry* TypedEntry() const {
+        const auto& entries = document_.Entries();
+        const auto after = std::upper_bound(
+            entries.begin(), entries.end(), offset_,
+            [](std::uint32_t at, const Entry& entry) { return at < entry.key.begin; });
+        return after != entries.begin() ? &*std::prev(after) : nullptr;
+    }
+
     void AddKeys() {
+        if (const Entry* const typed = TypedEntry()) {
+            known_.insert(document_.LowerKey(*typed));  // a text cannot refer to itself
+        }
         AddKeysOf(document_, '1');
         for (const Document* const common : CommonTexts()) {
             AddKeysOf(*common, '2');
@@ -188,12 +200,9 @@ private:
     /// chooses forms.
     std::map<std::string, bool> Params() const {
         std::map<std::string, bool> params;
-        const auto& entries = document_.Entries();
-        const auto after = std::upper_bound(
-            entries.begin(), entries.end(), offset_,
-            [](std::uint32_t at, const Entry& entry) { return at < entry.key.begin; });
         const Document* const reference = Reference();
-        if (after == entries.begin() || reference == nullptr) {
+        const Entry* const typed = TypedEntry();
+        if (typed == nullptr || reference == nullptr) {
             return params;
         }
         std::vector<const Document*> sources = {reference};
@@ -203,7 +212,7 @@ private:
             sources.push_back(common);
         }
         std::set<std::string> met;
-        std::vector<std::string> keys = {std::string(document_.Key(*std::prev(after)))};
+        std::vector<std::string> keys = {std::string(document_.Key(*typed))};
         while (!keys.empty()) {
             const std::string key = reference->LowerKey(keys.back());
             keys.pop_back();

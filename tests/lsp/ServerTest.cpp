@@ -1,0 +1,273 @@
+// What the language server answers, from the sessions beside this file, and what it survives.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "TempTree.h"
+#include "lsp/Inbox.h"
+#include "lsp/Server.h"
+#include "lsp/frames.h"
+#include "lsp/serve.h"
+#include "lsp/uri.h"
+
+namespace {
+
+using lm_lsp::Inbox;
+using lm_lsp::Json;
+
+/// Ranges as "2:0-2:4", so that a reply can be read.
+void Shorten(Json& value) {
+    if (value.is_structured()) {
+        for (Json& part : value) {
+            Shorten(part);
+        }
+    }
+    if (value.is_object() && value.contains("start") && value.contains("end")) {
+        const auto place = [&](const char* end) {
+            return value[end]["line"].dump() + ':' + value[end]["character"].dump();
+        };
+        value = place("start") + '-' + place("end");
+    }
+}
+
+void Replace(std::string& text, const std::string& what, const std::string& by) {
+    for (std::size_t at = text.find(what); at != std::string::npos;
+         at = text.find(what, at + by.size())) {
+        text.replace(at, what.size(), by);
+    }
+}
+
+/// What is wrong with a file in one line; the words are the check's.
+std::string Brief(const Json& params) {
+    std::string text =
+        params["uri"].get<std::string>() + ' ' + params.value("version", Json()).dump();
+    std::map<std::string, int> counts;
+    for (const Json& diagnostic : params["diagnostics"]) {
+        ++counts[diagnostic["code"].get<std::string>() + ' ' +
+                 diagnostic["range"].get<std::string>()];
+    }
+    for (const auto& [what, count] : counts) {
+        text += ", " + what + (count > 1 ? " x" + std::to_string(count) : "");
+    }
+    return text;
+}
+
+/// Says which texts it was asked for.
+lm_lsp::EngineAnswer EchoEngine(const lm_lsp::EngineRequest& request) {
+    const bool usesNumber = request.numbers.count("count") != 0 &&
+                            request.texts.find(request.key + " = {") != std::string::npos;
+    return {true, request.key + '/' + std::to_string(request.texts.size()), usesNumber};
+}
+
+class Session {
+public:
+    using Files = std::vector<std::pair<std::string, std::string>>;
+
+    explicit Session(const Files& files)
+        : server_({"1", &EchoEngine, [this](const Json& message) { Note(message); },
+                   [] { return false; }}) {
+        for (const auto& [path, text] : files) {
+            tree_.Write(path, text);
+        }
+        uri_ = lm_lsp::UriOf(tree_.Root());
+    }
+
+    /// @param line  "METHOD PARAMS" for a request, "METHOD! PARAMS" for a notification; FILE@LINE:COLUMN
+    ///              among the parameters stands for a place.
+    std::string Run(std::string line) {
+        heard_.clear();
+        Replace(line, "TREE", uri_);
+        const std::size_t blank = line.find(' ');
+        std::string method = line.substr(0, blank);
+        Json message = {{"jsonrpc", "2.0"}};
+        message["params"] = Json::parse(line.substr(blank), nullptr, false);
+        if (Json& params = message["params"]; params.is_object() && params.contains("at")) {
+            const auto at = params["at"].get<std::string>();
+            unsigned row = 0;
+            unsigned column = 0;
+            char sign = ' ';
+            std::istringstream(at.substr(at.find('@') + 1)) >> row >> sign >> column;
+            params["textDocument"]["uri"] = uri_ + '/' + at.substr(0, at.find('@'));
+            params["position"] = {{"line", row}, {"character", column}};
+            params["range"] = {{"start", params["position"]}, {"end", params["position"]}};
+            params.erase("at");
+        }
+        if (method.back() == '!') {
+            method.pop_back();
+        } else {
+            message["id"] = 1;
+        }
+        message["method"] = method;
+        server_.Handle({message, {}});
+        while (server_.Delay()) {
+            server_.Work();
+        }
+        return heard_;
+    }
+
+private:
+    void Note(const Json& message) {
+        Json said = message;
+        Shorten(said);
+        std::string text;
+        if (said.contains("result")) {
+            text = said["result"].dump();
+        } else if (said.contains("error")) {
+            const auto why = said["error"]["message"].get<std::string>();
+            text = "error " + said["error"]["code"].dump() +
+                   (why.compare(0, 1, "[") == 0 ? "" : " " + why);  // the library's own words
+        } else if (said["params"].contains("diagnostics")) {
+            text = Brief(said["params"]);
+        } else {
+            text = said["params"]["message"].get<std::string>();
+        }
+        Replace(text, uri_, "TREE");
+        Replace(text, tree_.Root().generic_u8string(), "ROOT");
+        heard_ += "< " + text + '\n';
+    }
+
+    lm_test::TempTree tree_;
+    std::string uri_;
+    std::string heard_;
+    lm_lsp::Server server_;
+};
+
+TEST(ServerTest, SessionsGoAsExpected) {
+    std::ifstream file(SESSIONS);
+    std::unique_ptr<Session> session;
+    Session::Files files;
+    std::string expected;
+    std::string heard;
+    std::string asked;
+    const auto compare = [&] {
+        EXPECT_EQ(heard, expected) << asked;
+        expected.clear();
+        heard.clear();
+    };
+    int count = 0;
+    for (std::string line; std::getline(file, line);) {
+        if (line.compare(0, 2, "==") == 0) {
+            compare();
+            session = std::make_unique<Session>(files);
+        } else if (line.compare(0, 2, "> ") == 0) {
+            compare();
+            asked = line;
+            heard = session->Run(line.substr(2));
+            ++count;
+        } else if (line.compare(0, 2, "@ ") == 0) {
+            const std::size_t blank = line.find(' ', 2);
+            Replace(line, "|", "\n");
+            files.emplace_back(line.substr(2, blank - 2), line.substr(blank + 1) + '\n');
+        } else if (line.compare(0, 2, "< ") == 0) {
+            expected += line + '\n';
+        }
+    }
+    compare();
+    EXPECT_GT(count, 20);
+}
+
+std::string Framed(const std::string& content) {
+    return "Content-Length: " + std::to_string(content.size()) + "\r\n\r\n" + content;
+}
+
+/// The codes of the errors that a stream is answered with, and how the server ends.
+std::string Outcome(const std::string& stream) {
+    std::istringstream in(stream);
+    std::ostringstream out;
+    std::string outcome = lm_lsp::Serve(in, out, "1", &EchoEngine) ? "good" : "bad";
+    std::istringstream replies(out.str());
+    while (const auto content = lm_lsp::ReadFrame(replies)) {
+        const Json reply = Json::parse(*content);
+        outcome += ' ' + (reply.contains("error") ? reply["error"]["code"].dump() : "ok");
+    }
+    return outcome;
+}
+
+TEST(ServerTest, BadStreamsEndWell) {
+    const std::string initialize = Framed(R"({"id":0,"method":"initialize","params":{}})");
+    const std::string end =
+        Framed(R"({"id":9,"method":"shutdown"})") + Framed(R"({"method":"exit"})");
+    const auto session = [&](const std::string& messages) { return initialize + messages + end; };
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"", "bad"},
+        {session(""), "good ok ok"},
+        {initialize + Framed(R"({"method":"exit"})"), "bad ok"},
+        {Framed(R"({"id":1,"method":"shutdown"})") + session(""), "good -32002 ok ok"},
+        {session(initialize), "good ok -32600 ok"},
+        {session(Framed("{")), "good ok -32700 ok"},
+        {session(Framed("\"\xFF\"")), "good ok -32700 ok"},
+        {session(Framed(R"({"id":1,"method":")" + std::string(1, '\xC3') + "\"}")),
+         "good ok -32700 ok"},
+        {session(Framed(std::string(1'000'000, '['))), "good ok -32700 ok"},
+        {session(Framed("[]") + Framed("7") + Framed(R"({"id":1,"method":2})")),
+         "good ok -32600 -32600 -32600 ok"},
+        {session(Framed(R"({"id":1,"method":"no/such"})") + Framed(R"({"method":"no/such"})")),
+         "good ok -32601 ok"},
+        {session(Framed(R"({"id":1,"method":"textDocument/hover","params":[]})")),
+         "good ok -32602 ok"},
+        {session(Framed(R"({"id":1,"result":{}})")), "good ok ok"},
+        {session("content-length:2\r\nContent-Type: x\r\n\r\n{}"), "good ok ok"},
+        {initialize + "Content-Length: 10\r\n\r\n{}", "bad ok -32700"},
+        {initialize + "Content-Length: -1\r\n\r\n" + end, "bad ok -32700"},
+        {initialize + "Content-Length: 99999999999999999999\r\n\r\n" + end, "bad ok -32700"},
+        {initialize + "Content-Length: 4294967296\r\n\r\n" + end, "bad ok -32700"},
+        {initialize + "Content-Length: 2 2\r\n\r\n{}" + end, "bad ok -32700"},
+        {initialize + "\r\n" + end, "bad ok -32700"},
+        {initialize + "no header\r\n\r\n" + end, "bad ok -32700"},
+        {initialize + std::string(10'000, 'x'), "bad ok -32700"},
+        {initialize + "Content-Length: 2\r\n", "bad ok -32700"},
+    };
+    for (const auto& [stream, expected] : cases) {
+        EXPECT_EQ(Outcome(stream), expected) << stream.substr(0, 300);
+    }
+}
+
+TEST(ServerTest, NeedlessRequestsAreRefusedBeforeTheirTurn) {
+    const auto request = [](int id, const std::string& uri) {
+        return R"({"id":)" + std::to_string(id) +
+               R"(,"method":"textDocument/hover","params":{"textDocument":{"uri":")" + uri +
+               "\"}}}";
+    };
+    std::istringstream in(
+        Framed(request(1, "a")) + Framed(request(2, "b")) + Framed(request(3, "b")) +
+        Framed(R"({"method":"$/cancelRequest","params":{"id":3}})") +
+        Framed(R"({"method":"textDocument/didChange","params":{"textDocument":{"uri":"a"}}})") +
+        Framed(request(4, "a")));
+    Inbox inbox;
+    inbox.ReadAll(in);
+    std::string refusals;
+    while (const auto message = inbox.Take(std::nullopt)) {
+        refusals += message->refusal
+                        ? std::to_string(static_cast<int>(message->refusal->Code())) + ' '
+                        : "none ";
+    }
+    EXPECT_EQ(refusals, "-32801 none -32800 none none ");
+    EXPECT_TRUE(inbox.IsAtEnd());
+}
+
+TEST(ServerTest, PathsAndUrisLeadToEachOther) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"file:///a/b%20c/%D1%8F.lt", "/a/b c/я.lt"},
+        {"file:///a/../b/./c", "/b/c"},
+        {"file://host/a", "-"},
+        {"untitled:1", "-"},
+        {"file:///a%0", "-"},
+        {"file:///a%G0", "-"},
+        {"file:///a%00", "-"},
+        {"file:///a%FF", "-"},
+    };
+    for (const auto& [uri, expected] : cases) {
+        const auto path = lm_lsp::PathOfUri(uri);
+        EXPECT_EQ(path ? path->generic_u8string() : "-", expected) << uri;
+    }
+    EXPECT_EQ(lm_lsp::UriOf(std::filesystem::u8path("/a/b c/я.lt")), cases.front().first);
+}
+
+}  // namespace
