@@ -13,8 +13,10 @@ duration=$(($(date +%s%N) - begin))
 cp file.lt new
 was_old=0
 was_new=0
-# In a session of its own: a runner may have started a process of its own for the program.
-for i in $(seq 80); do
+# Later and later, until some have come to their end. Each in a session of its own: a runner may have started a
+# process of its own for the program.
+for i in $(seq 400); do
+    [ "$was_new" -lt 10 ] || break
     cp old file.lt
     setsid localize format file.lt &
     sleep "$(awk "BEGIN { print $duration * $i / 60 / 1e9 }")"
