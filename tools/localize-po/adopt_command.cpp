@@ -8,7 +8,6 @@
 #include "Adoption.h"
 #include "FromUtf8.h"
 #include "TreeLayout.h"
-#include "choose_cultures.h"
 #include "commands.h"
 #include "edit/FileChange.h"
 #include "edit/write_whole.h"
@@ -18,6 +17,7 @@
 #include "read_text.h"
 #include "rule_file.h"
 #include "tree/Tree.h"
+#include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize_po {
@@ -48,7 +48,7 @@ public:
     explicit AdoptRun(const AdoptSettings& settings)
         : settings_(settings),
           root_(lm_tree::PathOf(settings.root)),
-          reference_(localize::RequestedCulture(settings.reference)),
+          reference_(lm_tree::RequestedCulture(settings.reference)),
           adoption_(settings.parameters.empty()
                         ? ParameterNames()
                         : ParameterNames(localize::ReadText(settings.parameters))) {}

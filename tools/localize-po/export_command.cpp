@@ -44,7 +44,7 @@ bool Export(const ExportSettings& settings) {
     const lm_tree::Tree tree(lm_tree::PathOf(settings.root), {});
     std::optional<lm_tree::CultureName> culture;
     if (!settings.isTemplate) {
-        culture = localize::RequestedCulture(settings.culture);
+        culture = lm_tree::RequestedCulture(settings.culture);
     }
     const lm_tree::CultureName reference = lm_tree::ChooseReference(tree, settings.reference);
     for (const ScopeFiles::File& file : settings.files.Files(tree.ScopesOf(reference))) {

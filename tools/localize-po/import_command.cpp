@@ -54,7 +54,7 @@ public:
         : settings_(settings),
           root_(lm_tree::PathOf(settings.root)),
           tree_(root_, {}),
-          culture_(localize::RequestedCulture(settings.culture)),
+          culture_(lm_tree::RequestedCulture(settings.culture)),
           reference_(lm_tree::ChooseReference(tree_, settings.reference)) {}
 
     /// Nothing is written unless all files are good.

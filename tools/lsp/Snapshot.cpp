@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "plural/culture_rule.h"
-#include "tree/usual_reference.h"
+#include "tree/choose_cultures.h"
 
 namespace lm_lsp {
 
@@ -15,24 +15,12 @@ namespace fs = std::filesystem;
 using lm_tree::CultureName;
 using lm_tree::FileId;
 
-namespace {
-
-CultureName ReferenceOf(const lm_tree::Tree& tree, const std::string& name) {
-    auto culture = lm_tree::CultureOfName(name.empty() ? lm_tree::UsualReference(tree) : name);
-    if (!culture) {
-        throw std::invalid_argument("unknown reference '" + name + "'");
-    }
-    return std::move(*culture);
-}
-
-}  // namespace
-
 Snapshot::Snapshot(TreePlace place, const Settings& settings, lm_tree::Overlay overlay)
     : place_(std::move(place)),
       settings_(settings),
       overlay_(std::move(overlay)),
       tree_(place_.root, place_.alternative, overlay_),
-      reference_(ReferenceOf(tree_, settings.check.reference)) {
+      reference_(lm_tree::ChooseReference(tree_, settings.check.reference)) {
     for (const CultureName& culture : tree_.Cultures()) {
         if (culture.culture) {
             cultures_.push_back(culture);

@@ -10,6 +10,7 @@
 
 #include "check/accept.h"
 #include "edit/add_missing.h"
+#include "edit/append.h"
 #include "edit/plural_forms.h"
 #include "lsp/Diagnostics.h"
 #include "lsp/places.h"
@@ -34,15 +35,6 @@ constexpr std::size_t kMostKeys = 20;  // that are offered one by one
 
 bool Touches(Range left, Range right) {
     return left.begin <= right.end && right.begin <= left.end;
-}
-
-/// The line break of a file, or of one with a single line the usual one.
-std::string LineBreakOf(const Document& document) {
-    const std::string_view bytes = document.Bytes();
-    const std::size_t at = bytes.find_first_of("\r\n");
-    return at == std::string_view::npos
-               ? "\n"
-               : std::string(bytes.substr(at, bytes.substr(at, 2) == "\r\n" ? 2 : 1));
 }
 
 const Operand* FirstOf(Value value) {
@@ -298,12 +290,12 @@ private:
     }
 
     void Suppress(const Finding& finding) {
-        const std::string comment = std::string("; localize: ignore ") +
-                                    lm_check::InfoOf(finding.rule).name + LineBreakOf(document_);
+        const std::string comment =
+            std::string("; localize: ignore ") + lm_check::InfoOf(finding.rule).name + lineBreak;
         const std::string title = std::string("Ignore ") + lm_check::InfoOf(finding.rule).name;
         if (finding.location.range == Range()) {
             const std::uint32_t begin = document_.Content().begin;
-            Offer(title + " in this file", {{{begin, begin}, comment + LineBreakOf(document_)}});
+            Offer(title + " in this file", {{{begin, begin}, comment + lineBreak}});
             return;
         }
         for (const Entry& entry : document_.Entries()) {
