@@ -200,9 +200,9 @@ void CheckChoices(const Subject& subject, Collector& out) {
             const std::string name(document.Name(operand));
             const Range written = document.NameRange(operand);
             const Range range{written.begin - 1, written.end};
-            std::string message = "$" + name +
-                                  " is a text for people, which chooses no form: write {$" +
-                                  std::string(derived->param) + ": ...}, and $" + name + " inside";
+            std::string message = "$" + name + " is a text for people, which chooses no form: ";
+            message.append("write {$").append(derived->param).append(": ...}, and $").append(name);
+            message.append(" inside");
             if (isLive) {
                 out.Add(Rule::FormattedForm, subject.Source(), range, document.Key(entry),
                         subject.requests, std::move(message));
