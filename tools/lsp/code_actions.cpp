@@ -290,6 +290,7 @@ private:
     }
 
     void Suppress(const Finding& finding) {
+        const std::string lineBreak(lm_edit::LineBreakOf(document_));
         const std::string comment =
             std::string("; localize: ignore ") + lm_check::InfoOf(finding.rule).name + lineBreak;
         const std::string title = std::string("Ignore ") + lm_check::InfoOf(finding.rule).name;
