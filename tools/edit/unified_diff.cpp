@@ -113,7 +113,7 @@ private:
         std::string body;
         std::size_t line = begin;
         std::ptrdiff_t growth = 0;
-        for (Position change = first; change != last; ++change) {
+        for (auto change = first; change != last; ++change) {
             for (; line < change->begin; ++line) {
                 PrintLine(body, ' ', lines_[line]);
             }

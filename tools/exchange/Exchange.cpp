@@ -46,7 +46,7 @@ Texts WholeTexts(const Message& message) {
     const Frame frame = FrameOf(message);
     Texts texts = Flat(OnlyPlural(message).forms);
     for (std::string& text : texts) {
-        text = frame.head + text + frame.tail;
+        text.insert(0, frame.head).append(frame.tail);
     }
     return texts;
 }
@@ -175,6 +175,7 @@ const Plural& Exchange::PluralOf(const std::string& number) const {
 
 std::vector<Phrase> Exchange::Read(const std::vector<std::string>& texts) const {
     std::vector<Phrase> phrases;
+    phrases.reserve(texts.size());
     for (const std::string& text : texts) {
         phrases.push_back(ReadFlat(text, names_));
     }

@@ -35,6 +35,15 @@ void AddComments(const Document& document, std::size_t entry, std::vector<std::s
 
 }  // namespace
 
+std::string LessSpecificDirectory(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
+                                  const std::string& scope) {
+    const auto answer = tree.Answer(culture, scope);
+    const std::string directory = answer ? tree.Files()[*answer].directory : std::string();
+    const bool isNeutral =
+        directory == lm_tree::Utf8Of(localization_manager::tree_layout::kNeutralDirectory);
+    return isNeutral || directory == culture.directories.front() ? std::string() : directory;
+}
+
 ScopeTexts::ScopeTexts(const lm_tree::Tree& tree,
                        const std::optional<lm_tree::CultureName>& culture,
                        const lm_tree::CultureName& reference, const std::string& scope)
@@ -63,17 +72,15 @@ void ScopeTexts::ReadOwn(const lm_tree::Tree& tree, const lm_tree::CultureName& 
                          const std::string& scope) {
     const std::string& directory = culture.directories.front();
     ownPath_ = tree.FullPath(lm_tree::Side::Root, lm_tree::TextsPath(directory, scope));
-    const auto answer = tree.Answer(culture, scope);
-    if (!answer) {
-        return;
+    const std::string other = LessSpecificDirectory(tree, culture, scope);
+    if (!other.empty()) {
+        throw std::invalid_argument("the texts of '" + scope + "' in " + culture.name +
+                                    " are those of '" + other + "': name that culture");
     }
-    const std::string& answering = tree.Files()[*answer].directory;
-    hasOwnFile_ = answering == directory;
+    const auto answer = tree.Answer(culture, scope);
+    hasOwnFile_ = answer && tree.Files()[*answer].directory == directory;
     if (hasOwnFile_) {
         own_ = lm_edit::ReadDocument(tree, *answer);
-    } else if (answering != lm_tree::Utf8Of(localization_manager::tree_layout::kNeutralDirectory)) {
-        throw std::invalid_argument("the texts of '" + scope + "' in " + culture.name +
-                                    " are those of '" + answering + "': name that culture");
     }
 }
 

@@ -14,6 +14,11 @@
 
 namespace lm_exchange {
 
+/// The less specific directory that answers a culture for a scope; empty when it is the culture's own
+/// one, that of the neutral texts, or none.
+std::string LessSpecificDirectory(const lm_tree::Tree& tree, const lm_tree::CultureName& culture,
+                                  const std::string& scope);
+
 /// What stood in the files when it was made. The culture's texts are those of its own directory; where
 /// only the neutral texts stand in for them, it has none.
 class ScopeTexts {

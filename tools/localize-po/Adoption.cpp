@@ -162,6 +162,7 @@ std::vector<std::size_t> FormsFor(const lm_plural::PluralRule& rule, const Plura
         found[*form] = static_cast<std::size_t>(*value);
     }
     std::vector<std::size_t> map;
+    map.reserve(found.size());
     for (const auto& form : found) {
         map.push_back(form.value_or(forms.count - 1));
     }

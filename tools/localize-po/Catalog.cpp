@@ -100,6 +100,11 @@ bool RequireUtf8(const std::string& path) {
     if (encoding.isUtf16 || !encoding.illFormed.empty()) {
         throw std::runtime_error("'" + path + "' is not UTF-8: save it as UTF-8");
     }
+    if (encoding.content.begin != 0) {
+        throw std::runtime_error("'" + path +
+                                 "' begins with a byte-order mark, which PO files do " +
+                                 "not have: save it without");
+    }
     if (bytes.find('\0') != std::string::npos) {
         throw std::runtime_error("'" + path + "' has a zero character and is no PO file");
     }

@@ -48,7 +48,7 @@ private:
         std::size_t operands[3] = {};
     };
 
-    std::optional<std::uint64_t> Value(std::size_t node, std::uint64_t number) const;
+    std::optional<std::uint64_t> Value(std::size_t at, std::uint64_t number) const;
     static std::optional<std::uint64_t> Computed(Op op, std::uint64_t left, std::uint64_t right);
 
     std::vector<Node> nodes_;  // the last one is the whole

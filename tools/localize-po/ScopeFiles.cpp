@@ -1,18 +1,30 @@
 #include "ScopeFiles.h"
 
-#include <algorithm>
+#include <iostream>
+
+#include "exchange/ScopeTexts.h"
 
 namespace localize_po {
 
-std::vector<ScopeFiles::File> ScopeFiles::Files(const std::vector<std::string>& scopes) const {
+std::vector<ScopeFiles::File> ScopeFiles::Files(const lm_tree::Tree& tree,
+                                                const std::optional<lm_tree::CultureName>& culture,
+                                                const lm_tree::CultureName& reference) const {
     if (!scope.empty()) {
         return {{scope, path}};
     }
-    const auto fileOf = [this](const std::string& name) {
-        return File{name, path + '/' + name + ".po"};
-    };
-    std::vector<File> files = {fileOf(lm_tree::CommonScope())};
-    std::transform(scopes.begin(), scopes.end(), std::back_inserter(files), fileOf);
+    std::vector<std::string> scopes = tree.ScopesOf(reference);
+    scopes.insert(scopes.begin(), lm_tree::CommonScope());
+    std::vector<File> files;
+    for (const std::string& name : scopes) {
+        const std::string other =
+            culture ? lm_exchange::LessSpecificDirectory(tree, *culture, name) : std::string();
+        if (other.empty()) {
+            files.push_back({name, std::string(path).append(1, '/').append(name).append(".po")});
+        } else {
+            std::cerr << "localize-po: " << name << " is left out: in " << culture->name
+                      << " its texts are those of " << other << '\n';
+        }
+    }
     return files;
 }
 

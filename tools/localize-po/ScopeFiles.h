@@ -1,6 +1,7 @@
 // Which PO file belongs to which scope.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,12 @@ struct ScopeFiles {
         std::string path;
     };
 
-    /// @param scopes  that there are, the common one aside.
-    std::vector<File> Files(const std::vector<std::string>& scopes) const;
+    /// Without a scope those of the reference. What a less specific culture answers is that one's: it
+    /// is left out, and said so.
+    /// @param culture  empty for a template.
+    std::vector<File> Files(const lm_tree::Tree& tree,
+                            const std::optional<lm_tree::CultureName>& culture,
+                            const lm_tree::CultureName& reference) const;
 
     /// Adds the options that fill it.
     void AddTo(CLI::App& command);

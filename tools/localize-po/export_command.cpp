@@ -47,7 +47,7 @@ bool Export(const ExportSettings& settings) {
         culture = lm_tree::RequestedCulture(settings.culture);
     }
     const lm_tree::CultureName reference = lm_tree::ChooseReference(tree, settings.reference);
-    for (const ScopeFiles::File& file : settings.files.Files(tree.ScopesOf(reference))) {
+    for (const ScopeFiles::File& file : settings.files.Files(tree, culture, reference)) {
         const lm_exchange::ScopeTexts texts(tree, culture, reference, file.scope);
         const Catalog catalog =
             CatalogOf(texts, file.scope, culture, [&file](const std::string& warning) {

@@ -60,7 +60,7 @@ public:
     /// Nothing is written unless all files are good.
     bool Run() {
         std::vector<std::unique_ptr<Result>> results;
-        for (const auto& file : settings_.files.Files(tree_.ScopesOf(reference_))) {
+        for (const auto& file : settings_.files.Files(tree_, culture_, reference_)) {
             results.push_back(ResultOf(file));
         }
         bool all = true;
