@@ -17,6 +17,7 @@ namespace lm_lsp {
 /// Filled by a thread of its own, so that what makes a request needless is known before its turn.
 class Inbox {
 public:
+    // NOLINTNEXTLINE(bugprone-exception-escape): a value of JSON is moved without exceptions
     struct Message {
         Json content;
         std::optional<RequestError> refusal;  // the answer, if it is known already

@@ -12,9 +12,10 @@ namespace lm_lsp {
 
 namespace {
 
-constexpr std::size_t kLongestHeader = 4096;            // one line of it
-constexpr std::size_t kLargest = 256U * 1024U * 1024U;  // content
-constexpr std::size_t kPiece = 1024U * 1024U;  // memory is taken as bytes come, not as announced
+constexpr std::size_t kLongestHeader = 4096;                      // one line of it
+constexpr std::size_t kLargest = std::size_t{256} * 1024 * 1024;  // content
+constexpr std::size_t kPiece =
+    std::size_t{1024} * 1024;  // memory is taken as bytes come, not as announced
 constexpr std::size_t kDeepest = 64;
 
 /// A line without its CR LF; empty at the end of the stream.
