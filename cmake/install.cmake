@@ -52,8 +52,9 @@ endforeach()
 
 # In the places that they have in the project, since they refer to each other.
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT tool)
-install(DIRECTORY docs samples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT tool
-    REGEX /samples/CMakeLists.txt$ EXCLUDE)
+install(DIRECTORY docs samples editors DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT tool
+    REGEX /samples/CMakeLists.txt$ EXCLUDE
+    PATTERN .gitignore EXCLUDE)
 install(FILES bindings/python/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/bindings/python COMPONENT tool)
 
 if(TARGET localize)
