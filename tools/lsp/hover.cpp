@@ -79,7 +79,8 @@ public:
         }
         std::string all = key_.key + '\n';
         for (const auto& [cultures, file, texts] : groups_) {
-            all += '\n' + cultures + (file.empty() ? "" : " (" + file + ")") + '\n' + texts;
+            all.append("\n").append(cultures);
+            all.append(file.empty() ? "" : " (" + file + ")").append("\n").append(texts);
         }
         return all;
     }
