@@ -2,12 +2,14 @@
 #define LMC_BUILDS_LIBRARY
 #include "localization_manager/c/localization_manager.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -32,7 +34,7 @@ std::string& LastError() {
     return error;
 }
 
-void SetLastError(const char* error) noexcept {
+void SetLastError(std::string_view error) noexcept {
     try {
         LastError() = error;
     } catch (...) {
@@ -76,7 +78,7 @@ char* Copied(const std::string& text) {
 }
 
 std::string Shown(lmc_missing missing, const host::TextProblem& problem) {
-    SetLastError(problem.message.c_str());
+    SetLastError(problem.message);
     switch (missing) {
         case LMC_MISSING_KEY:
             return host::ShowKey(problem);
@@ -100,6 +102,12 @@ lmc_tree* lmc_open(const char* root, const char* alternative, const char* module
         host::TreeSettings settings;
         settings.alternative = Optional(alternative);
         settings.module = module != nullptr ? module : settings.module;
+        if (missing < LMC_MISSING_KEY || missing > LMC_MISSING_NULL) {
+            throw std::invalid_argument("missing is none of lmc_missing");
+        }
+        settings.report = [](std::uint32_t /*level*/, std::string_view report) {
+            SetLastError(report);
+        };
         settings.whenMissing = [missing](const host::TextProblem& problem) {
             return Shown(missing, problem);
         };
@@ -174,7 +182,7 @@ int lmc_refresh(const lmc_tree* tree) {
     return Guarded(-1, [&] {
         const host::Refreshed refreshed = Given(tree, "tree")->tree.Refresh();
         if (refreshed.outcome == host::Refreshed::Outcome::Kept) {
-            SetLastError(refreshed.mistakes.c_str());
+            SetLastError(refreshed.mistakes);
             return -1;
         }
         return refreshed.outcome == host::Refreshed::Outcome::Replaced ? 1 : 0;

@@ -155,6 +155,7 @@ TEST_F(TextsTest, SaysBeforeAnythingIsShownWhetherAScopeCanBeUsed) {
         "error: cannot find localization file 'none.lt'");
     EXPECT_EQ(TakeReports(), none.report + '\n');
     const host::Texts broken = tree.Open("main", {"fr", "en"});
+    EXPECT_TRUE(broken.State().isUsable);  // by the second culture
     EXPECT_NE(broken.State().report.find("parse error"), std::string::npos);
     EXPECT_EQ(broken("Only.English"), "English");  // and no further word about it
     EXPECT_EQ(TakeReports(), broken.State().report + '\n');

@@ -17,7 +17,12 @@ bool Has(const RequestSettings& settings) {
     const Requests requests(settings);
     Answers answers("key", settings.json);
     for (const std::string& key : settings.names) {
+        const std::size_t before = requests.Reports().Count();
         const bool exists = !qor::Failed(requests.Localizer().HasString(host::ToString16(key)));
+        if (settings.json && requests.Reports().Count() != before) {
+            answers.AddFailure(key, requests.Reports().Last());
+            continue;
+        }
         answers.Add(key, "exists", exists, exists ? "yes" : "no");
         if (!exists) {
             answers.Fail();

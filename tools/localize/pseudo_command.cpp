@@ -47,14 +47,17 @@ public:
                 lm_edit::WriteInTree(to_, path, Pseudolocalized(document, style));
             }
         }
+        fs::path rulePath = to_;
+        const auto directories =
+            layout::PluralRuleDirectories(lm_plural::PluralRule::Id(*target.culture));
+        for (const std::u16string& directory : directories.front()) {
+            rulePath /= directory;
+        }
+        rulePath /= layout::kPluralRuleFile;
         if (const auto rule = lm_plural::RuleOf(&tree_, source_).file) {
-            fs::path path = to_;
-            const auto directories =
-                layout::PluralRuleDirectories(lm_plural::PluralRule::Id(*target.culture));
-            for (const std::u16string& directory : directories.front()) {
-                path /= directory;
-            }
-            lm_edit::WriteInTree(to_, path / layout::kPluralRuleFile, tree_.Read(*rule));
+            lm_edit::WriteInTree(to_, rulePath, tree_.Read(*rule));
+        } else {
+            fs::remove(rulePath);  // of another source, from before
         }
         std::cout << lm_tree::Utf8Of(to_ / target.directories.front()) << '\n';
     }

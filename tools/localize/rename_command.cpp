@@ -42,12 +42,12 @@ bool Rename(const RenameSettings& settings) {
 
 void AddRenameCommand(CLI::App& app, Task& chosen) {
     const auto settings = std::make_shared<RenameSettings>();
-    CLI::App& rename =
-        AddCommand(app, chosen,
-                   {"rename", "Rename a key in all cultures, with the references to it",
-                    "0 renamed, 2 could not run, nothing is changed then",
-                    "localize rename --root texts --scope common App.Name Product.Name"},
-                   ThatRuns([settings] { return Rename(*settings); }));
+    CLI::App& rename = AddCommand(
+        app, chosen,
+        {"rename", "Rename a key in all cultures, with the references to it",
+         "0 renamed, 2 could not run; nothing is changed then, unless a file cannot be written",
+         "localize rename --root texts --scope common App.Name Product.Name"},
+        ThatRuns([settings] { return Rename(*settings); }));
     AddRoot(rename, settings->root);
     AddReference(rename, settings->reference);
     rename.add_option("--scope", settings->key.scope, "Scope of the key; common for a common one")

@@ -63,6 +63,12 @@ Json EditOf(const lm_source::Document& document, Range range, std::string text) 
 }
 
 Json EditsBetween(std::string_view before, std::string_view after) {
+    // An editor keeps the mark of a file apart from its text.
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    if (before.substr(0, kMark.size()) == kMark && after.substr(0, kMark.size()) == kMark) {
+        before.remove_prefix(kMark.size());
+        after.remove_prefix(kMark.size());
+    }
     const LineTable from = LinesOf(before);
     const LineTable to = LinesOf(after);
     const auto isSame = [&](std::uint32_t left, std::uint32_t right) {

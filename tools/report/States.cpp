@@ -24,6 +24,9 @@ State StateOf(const lm_check::Finding& finding) {
 
 States::States(const lm_check::Report& report) {
     for (const lm_check::Finding& finding : report.findings) {
+        if (finding.rule == Rule::MissingFile) {
+            lackingFile_.insert(finding.requests.begin(), finding.requests.end());
+        }
         const State state = StateOf(finding);
         if (state == State::Done || finding.key.empty()) {
             continue;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -25,9 +26,13 @@ public:
     /// @param key  in any letter case.
     State Of(lm_check::Request request, std::string_view key) const;
 
+    /// Whether a culture lacks the file of a scope: all of its keys are missing then.
+    bool LacksFile(lm_check::Request request) const { return lackingFile_.count(request) != 0; }
+
 private:
     lm_source::KeyCase keyCase_;
     std::map<std::pair<lm_check::Request, std::string>, State> states_;  // but those that are done
+    std::set<lm_check::Request> lackingFile_;
 };
 
 }  // namespace lm_report

@@ -133,11 +133,15 @@ private:
 
     State StateOf(std::size_t culture, std::size_t scope, const std::string& key,
                   const std::vector<Answer>& answers) const {
-        const State state = states_.Of(
-            {static_cast<std::uint16_t>(culture), static_cast<std::uint16_t>(scope)}, key);
+        const lm_check::Request request{static_cast<std::uint16_t>(culture),
+                                        static_cast<std::uint16_t>(scope)};
+        const State state = states_.Of(request, key);
         const bool isGiven = std::all_of(answers.begin(), answers.end(),
                                          [](const Answer& answer) { return answer.isGiven; });
-        return isGiven || state == State::Missing ? state : State::Faulty;
+        if (isGiven || state == State::Missing) {
+            return state;
+        }
+        return states_.LacksFile(request) ? State::Missing : State::Faulty;
     }
 
     void WriteHead() {

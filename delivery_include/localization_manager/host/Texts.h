@@ -95,12 +95,18 @@ public:
         return std::nullopt;
     }
 
-    /// Whether the sources of the first culture could be read, and why not: to be asked before anything
-    /// is shown. With a mistake in the common source, what stands before it may still be answered.
+    /// Whether the sources of at least one culture could be read, and why those of the others could not:
+    /// to be asked before anything is shown. With a mistake in the common source, what stands before it
+    /// may still be answered.
     TextsState State() const {
         const auto generation = tree_->Read();
-        const std::string& mistake = generation->texts[place_].front().mistake;
-        return {mistake.empty(), mistake};
+        TextsState state{false, {}};
+        for (const auto& source : generation->texts[place_]) {
+            state.isUsable = state.isUsable || source.mistake.empty();
+            const bool isNext = !state.report.empty() && !source.mistake.empty();
+            state.report.append(isNext ? "\n" : "").append(source.mistake);
+        }
+        return state;
     }
 
     /// As `Tree::Refresh`, for the whole tree.

@@ -7,7 +7,7 @@ namespace localization_manager::host {
 
 struct TextsState {
     bool isUsable = true;
-    std::string report;  // why not, in UTF-8
+    std::string report;  // of each culture whose sources cannot be read, why not; in UTF-8
 };
 
 }  // namespace localization_manager::host

@@ -38,8 +38,9 @@ typedef enum lmc_missing {
     LMC_MISSING_NULL = 2        /* a null pointer */
 } lmc_missing;
 
-/* Why the last call of this thread that failed did so; empty when none has. Of lmc_text, also what is
- * wrong when the key was returned in the text's place. Valid until the thread's next call. */
+/* Why the thread's last call failed; empty when it did not. Also what went wrong on the way when it did
+ * what it could: the key that lmc_text returned in a text's place, a culture whose sources lmc_open_texts
+ * could not read, a name that lmc_path refused. Valid until the thread's next call. */
 LMC_API const char* lmc_last_error(void);
 
 /* Opens the tree in a directory.
@@ -81,7 +82,7 @@ LMC_API int lmc_has(const lmc_texts* texts, const char* key);
 /* The path of a resource file of the scope; null when there is none. */
 LMC_API char* lmc_path(const lmc_texts* texts, const char* file);
 
-/* Null when the sources of the first culture could be read, else why not. */
+/* Null when the sources of at least one culture could be read, else why not. */
 LMC_API char* lmc_state(const lmc_texts* texts);
 
 /* Reads all texts anew when a file has changed; who asks meanwhile is not held up.
