@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <utility>
 
 #include "localization_manager/host/shortened.h"
 #include "read_text.h"
@@ -33,8 +34,11 @@ ModuleReports::ModuleReports(const RequestSettings& settings)
 host::Report ModuleReports::Callback() {
     return [this](std::uint32_t /*level*/, std::string_view text) {
         ++count_;
-        last_ = Translated(host::Shortened(text));
-        if (!isQuiet_) {
+        std::string report = Translated(host::Shortened(text));
+        // Each key of a source that cannot be used gives the same one.
+        const bool isTold = report == last_;
+        last_ = std::move(report);
+        if (!isQuiet_ && !isTold) {
             std::cerr << last_ << '\n' << std::flush;
         }
     };
