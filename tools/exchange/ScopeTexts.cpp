@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "check/ReferenceTexts.h"
 #include "edit/read_document.h"
 #include "localization_manager/tree_layout.h"
 #include "plural/culture_rule.h"
@@ -46,8 +47,9 @@ std::string LessSpecificDirectory(const lm_tree::Tree& tree, const lm_tree::Cult
 
 ScopeTexts::ScopeTexts(const lm_tree::Tree& tree,
                        const std::optional<lm_tree::CultureName>& culture,
-                       const lm_tree::CultureName& reference, const std::string& scope)
-    : own_(std::string()) {
+                       const lm_tree::CultureName& reference, const std::string& scope,
+                       const lm_check::TranslationLock& lock)
+    : scope_(scope), culture_(culture), reference_(reference), own_(std::string()) {
     const auto file = tree.Answer(reference, scope);
     if (!file) {
         throw std::invalid_argument("the reference '" + reference.name + "' has no scope '" +
@@ -61,7 +63,7 @@ ScopeTexts::ScopeTexts(const lm_tree::Tree& tree,
     // The neutral texts are used under the rule of whoever asks.
     const auto referenceRule = reference.culture ? lm_plural::RuleOf(&tree, reference).rule : rule_;
     AddTexts(lm_edit::ReadDocument(tree, *file),
-             referenceRule ? referenceRule->FormOf(1).value_or(0) : 0);
+             referenceRule ? referenceRule->FormOf(1).value_or(0) : 0, lock);
 }
 
 std::size_t ScopeTexts::FormCount() const noexcept {
@@ -84,24 +86,38 @@ void ScopeTexts::ReadOwn(const lm_tree::Tree& tree, const lm_tree::CultureName& 
     }
 }
 
-void ScopeTexts::AddTexts(const Document& reference, std::size_t referenceOne) {
+ScopeTexts::Progress ScopeTexts::ProgressOf(const Document& reference, const Entry& entry,
+                                            std::size_t ownEntry,
+                                            const lm_check::TranslationLock& lock) const {
+    const auto accepted = lock.Find(culture_->directories.front() + '/' + scope_,
+                                    own_.LowerKey(own_.Entries()[ownEntry]));
+    if (!accepted) {
+        return Progress::Translated;
+    }
+    return *accepted == lm_check::HashOf(reference, entry) ? Progress::Accepted : Progress::Stale;
+}
+
+void ScopeTexts::AddTexts(const Document& reference, std::size_t referenceOne,
+                          const lm_check::TranslationLock& lock) {
     for (std::size_t number = 0; number < reference.Entries().size(); ++number) {
         const Entry& entry = reference.Entries()[number];
         std::vector<std::string> comments;
         AddComments(reference, number, comments);
         std::optional<Message> message;
         std::optional<std::size_t> ownEntry;
+        Progress progress = Progress::Missing;
         if (const Entry* const own = own_.Find(reference.Key(entry))) {
             ownEntry = static_cast<std::size_t>(own - own_.Entries().data());
             AddComments(own_, *ownEntry, comments);
             if (!UntranslatedMark(own_, *ownEntry)) {
                 message = MessageOf(own_, *own);
+                progress = ProgressOf(reference, entry, *ownEntry, lock);
             }
         }
         texts_.push_back(
             {std::string(reference.Key(entry)), std::move(comments),
              Exchange(MessageOf(reference, entry), std::move(message), {referenceOne, FormCount()}),
-             ownEntry});
+             ownEntry, progress});
     }
     for (const Entry& entry : own_.Entries()) {
         if (reference.Find(own_.Key(entry)) == nullptr) {

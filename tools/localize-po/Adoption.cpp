@@ -151,9 +151,10 @@ Adoption::File Adoption::Translation(const Catalog& catalog, const std::vector<s
     return file;
 }
 
-std::vector<std::size_t> FormsFor(const lm_plural::PluralRule& rule, const PluralForms& forms) {
+std::vector<std::size_t> FormsFor(const lm_plural::PluralRule& rule,
+                                  const lm_plural::PluralForms& forms) {
     std::vector<std::optional<std::size_t>> found(rule.FormCount());
-    for (const std::uint64_t number : NumbersToTry(rule)) {
+    for (const std::uint64_t number : lm_plural::NumbersToTry(rule)) {
         const auto form = rule.FormOf(number);
         const auto value = forms.expression.ValueFor(number);
         if (!form || !value || *value >= forms.count || found[*form].value_or(*value) != *value) {

@@ -12,7 +12,7 @@
 #include "ParameterNames.h"
 #include "exchange/Phrase.h"
 #include "plural/PluralRule.h"
-#include "plural_forms.h"
+#include "plural/plural_forms.h"
 
 namespace localize_po {
 
@@ -65,6 +65,7 @@ private:
 
 /// Which form of a catalog each form of a rule is.
 /// @return empty when one form of the rule would have to be several.
-std::vector<std::size_t> FormsFor(const lm_plural::PluralRule& rule, const PluralForms& forms);
+std::vector<std::size_t> FormsFor(const lm_plural::PluralRule& rule,
+                                  const lm_plural::PluralForms& forms);
 
 }  // namespace localize_po

@@ -14,8 +14,8 @@
 #include "languages.h"
 #include "plural/culture_rule.h"
 #include "plural/parse_rule.h"
+#include "plural/rule_file.h"
 #include "read_text.h"
-#include "rule_file.h"
 #include "tree/Tree.h"
 #include "tree/choose_cultures.h"
 #include "tree/path_text.h"
@@ -134,7 +134,7 @@ private:
         const lm_tree::CultureName& culture = *source.culture;
         const std::string field = source.catalog.HeaderField("Plural-Forms");
         try {
-            const PluralForms forms(field.empty() ? kUsualForms : field);
+            const lm_plural::PluralForms forms(field.empty() ? kUsualForms : field);
             std::vector<std::size_t> map = FormsFor(RuleOf(culture), forms);
             if (map.empty()) {
                 AddRule(culture, forms, field);
@@ -174,9 +174,9 @@ private:
         return lm_plural::RuleOf(tree_ ? &*tree_ : nullptr, culture).rule;
     }
 
-    void AddRule(const lm_tree::CultureName& culture, const PluralForms& forms,
+    void AddRule(const lm_tree::CultureName& culture, const lm_plural::PluralForms& forms,
                  const std::string& field) {
-        const auto text = RuleFileOf(forms);
+        const auto text = lm_plural::RuleFileOf(forms);
         if (!text) {
             throw std::runtime_error("neither the rule of " + culture.name +
                                      " nor a rule file can choose as its Plural-Forms do: '" +

@@ -1,20 +1,22 @@
-// All commands of the program. Each stands in a file of its own.
+// All commands of the program.
 #pragma once
 
 #include "Command.h"
+#include "PoFormat.h"
+#include "exchange_commands.h"
 
 namespace localize_po {
 
 using localize::Task;
 
-void AddExportCommand(CLI::App& app, Task& chosen);
-void AddImportCommand(CLI::App& app, Task& chosen);
 void AddAdoptCommand(CLI::App& app, Task& chosen);
 
 /// In the order in which --help names them.
 inline void AddAllCommands(CLI::App& app, Task& chosen) {
-    AddExportCommand(app, chosen);
-    AddImportCommand(app, chosen);
+    static const PoFormat format;
+    const localize::ExchangeProgram program{"localize-po", "localize-po", format};
+    AddExportCommand(app, chosen, program);
+    AddImportCommand(app, chosen, program);
     AddAdoptCommand(app, chosen);
 }
 

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <utility>
 
-#include "CultureNames.h"
+#include "exchange/languages.h"
 #include "tree/ascii_case.h"
 
 namespace localize_po {
@@ -32,14 +33,14 @@ constexpr std::array<std::pair<std::string_view, const char*>, 14> kKnown = {{
 }  // namespace
 
 std::string LanguageOf(const lm_tree::CultureName& culture) {
-    std::string language = localization_manager::LanguageToIsoName(culture.culture->language);
-    std::replace(language.begin(), language.end(), '-', '_');
-    std::string region(culture.culture->region.c_str());
-    std::transform(region.begin(), region.end(), region.begin(), [](char unit) {
-        return unit >= 'a' && unit <= 'z' ? static_cast<char>(unit - 'a' + 'A') : unit;
-    });
+    std::string language = lm_exchange::LanguageTag(culture);
     const std::string variant(culture.culture->variant.c_str());
-    return language + (region.empty() ? "" : '_' + region) + (variant.empty() ? "" : '@' + variant);
+    if (!variant.empty()) {
+        language[language.size() - variant.size() - 1] = '@';
+    }
+    std::replace(language.begin(), language.end() - static_cast<std::ptrdiff_t>(variant.size()),
+                 '-', '_');
+    return language;
 }
 
 std::optional<lm_tree::CultureName> CultureOfLanguage(std::string_view language) {

@@ -19,10 +19,10 @@ using Task = std::function<bool()>;
 
 /// The end of a command's help.
 struct CommandHelp {
-    const char* name;
-    const char* description;
-    const char* statuses;  // what the exit status says
-    const char* example;
+    std::string name;
+    std::string description;
+    std::string statuses;  // what the exit status says
+    std::string example;
 };
 
 /// For commands that judge or write files.
@@ -45,7 +45,7 @@ Task ThatRuns(Run run) {
 inline CLI::App& AddCommand(CLI::App& app, Task& chosen, const CommandHelp& help, Task run) {
     CLI::App& command = *app.add_subcommand(help.name, help.description);
     command.callback([&chosen, run = std::move(run)] { chosen = run; });
-    command.footer(std::string("Exit status: ") + help.statuses + ".\nExample: " + help.example);
+    command.footer("Exit status: " + help.statuses + ".\nExample: " + help.example);
     return command;
 }
 

@@ -1,11 +1,11 @@
-#include "PluralExpression.h"
+#include "plural/PluralExpression.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <stdexcept>
 
-namespace localize_po {
+namespace lm_plural {
 
 namespace {
 
@@ -217,4 +217,4 @@ std::optional<std::uint64_t> PluralExpression::Computed(Op op, std::uint64_t lef
     }
 }
 
-}  // namespace localize_po
+}  // namespace lm_plural

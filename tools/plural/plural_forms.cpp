@@ -1,4 +1,4 @@
-#include "plural_forms.h"
+#include "plural/plural_forms.h"
 
 #include <algorithm>
 #include <array>
@@ -6,10 +6,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-namespace localize_po {
-
-using lm_plural::Condition;
-using lm_plural::PluralRule;
+namespace lm_plural {
 
 namespace {
 
@@ -152,4 +149,4 @@ std::vector<std::uint64_t> NumbersToTry(const PluralRule& rule) {
     return numbers;
 }
 
-}  // namespace localize_po
+}  // namespace lm_plural

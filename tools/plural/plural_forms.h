@@ -1,4 +1,4 @@
-// What the header of a catalog says of plural forms.
+// Plural rules as the headers of PO files have them.
 #pragma once
 
 #include <cstddef>
@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "PluralExpression.h"
+#include "plural/PluralExpression.h"
 #include "plural/PluralRule.h"
 
-namespace localize_po {
+namespace lm_plural {
 
 /// The field "Plural-Forms", read.
 struct PluralForms {
@@ -25,12 +25,12 @@ private:
 };
 
 /// The field for a rule. Numbers that the rule leaves out get its last form.
-std::string PluralFormsOf(const lm_plural::PluralRule& rule);
+std::string PluralFormsOf(const PluralRule& rule);
 
 /// Whether a field chooses the forms that a rule chooses, for every number that is tried.
-bool Agree(const PluralForms& forms, const lm_plural::PluralRule& rule);
+bool Agree(const PluralForms& forms, const PluralRule& rule);
 
 /// Numbers that tell rules apart: small ones, some around each power of ten, and a rule's own constants.
-std::vector<std::uint64_t> NumbersToTry(const lm_plural::PluralRule& rule);
+std::vector<std::uint64_t> NumbersToTry(const PluralRule& rule);
 
-}  // namespace localize_po
+}  // namespace lm_plural

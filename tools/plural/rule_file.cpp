@@ -1,4 +1,4 @@
-#include "rule_file.h"
+#include "plural/rule_file.h"
 
 #include <array>
 #include <cstddef>
@@ -11,7 +11,7 @@
 #include "plural/PluralRule.h"
 #include "plural/parse_rule.h"
 
-namespace localize_po {
+namespace lm_plural {
 
 namespace {
 
@@ -181,12 +181,11 @@ std::optional<std::string> RuleFileOf(const PluralForms& forms) {
     }
     try {
         std::string text = RuleFileWriter(forms.expression).Write(forms.count);
-        const lm_plural::PluralRule rule(
-            lm_plural::ParseRule(LocalizationManager::Text::FromUtf8(text)));
+        const PluralRule rule(ParseRule(LocalizationManager::Text::FromUtf8(text)));
         return Agree(forms, rule) ? std::optional(std::move(text)) : std::nullopt;
     } catch (const NotSayable&) {
         return std::nullopt;
     }
 }
 
-}  // namespace localize_po
+}  // namespace lm_plural

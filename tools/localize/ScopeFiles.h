@@ -1,16 +1,15 @@
-// Which PO file belongs to which scope.
+// Which of translators' files belongs to which scope.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "Command.h"
+#include "exchange_commands.h"
 #include "tree/Tree.h"
 
-namespace localize_po {
+namespace localize {
 
-/// One file for the scope that is named, or a directory with a file for each.
 struct ScopeFiles {
     std::string scope;  // empty for all
     std::string path;
@@ -25,10 +24,11 @@ struct ScopeFiles {
     /// @param culture  empty for a template.
     std::vector<File> Files(const lm_tree::Tree& tree,
                             const std::optional<lm_tree::CultureName>& culture,
-                            const lm_tree::CultureName& reference) const;
+                            const lm_tree::CultureName& reference,
+                            const ExchangeProgram& program) const;
 
     /// Adds the options that fill it.
-    void AddTo(CLI::App& command);
+    void AddTo(CLI::App& command, const lm_exchange::Format& format);
 };
 
-}  // namespace localize_po
+}  // namespace localize

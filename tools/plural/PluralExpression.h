@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace localize_po {
+namespace lm_plural {
 
 /// What stands behind "plural=": an expression of C over unsigned numbers. Immutable.
 class PluralExpression {
@@ -54,4 +54,4 @@ private:
     std::vector<Node> nodes_;  // the last one is the whole
 };
 
-}  // namespace localize_po
+}  // namespace lm_plural

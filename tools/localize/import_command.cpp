@@ -5,14 +5,15 @@
 #include <stdexcept>
 
 #include "ScopeFiles.h"
-#include "commands.h"
 #include "edit/unified_diff.h"
 #include "edit/write_whole.h"
-#include "import_catalog.h"
+#include "exchange/import_file.h"
+#include "exchange_commands.h"
+#include "read_lock.h"
 #include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
-namespace localize_po {
+namespace localize {
 
 namespace {
 
@@ -26,18 +27,18 @@ struct ImportSettings {
 
 /// What becomes of one scope's file.
 struct Result {
-    std::string po;
+    std::string path;
     lm_exchange::ScopeTexts texts;
-    std::optional<Import> import;
+    std::optional<lm_exchange::Import> import;
 };
 
-void PrintSummary(std::ostream& stream, const Result& result) {
-    const Counts& counts = result.import->counts;
-    stream << result.po << ": " << result.import->changes.Changed() << " changed, "
+void PrintSummary(std::ostream& stream, const Result& result, const char* unfinished) {
+    const lm_exchange::Counts& counts = result.import->counts;
+    stream << result.path << ": " << result.import->changes.Changed() << " changed, "
            << result.import->changes.Added() << " new, " << counts.unchanged << " unchanged";
     const char* separator = "; skipped: ";
     for (const auto& [count, what] :
-         {std::pair(counts.fuzzy, "fuzzy"), std::pair(counts.empty, "untranslated"),
+         {std::pair(counts.unfinished, unfinished), std::pair(counts.empty, "untranslated"),
           std::pair(counts.obsolete, "obsolete"), std::pair(counts.outdated, "outdated"),
           std::pair(result.import->errors.size(), "impossible")}) {
         if (count != 0) {
@@ -50,17 +51,19 @@ void PrintSummary(std::ostream& stream, const Result& result) {
 
 class ImportRun {
 public:
-    explicit ImportRun(const ImportSettings& settings)
+    ImportRun(const ImportSettings& settings, const ExchangeProgram& program)
         : settings_(settings),
+          program_(program),
           root_(lm_tree::PathOf(settings.root)),
           tree_(root_, {}),
           culture_(lm_tree::RequestedCulture(settings.culture)),
-          reference_(lm_tree::ChooseReference(tree_, settings.reference)) {}
+          reference_(lm_tree::ChooseReference(tree_, settings.reference)),
+          lock_(ReadLock(root_)) {}
 
     /// Nothing is written unless all files are good.
     bool Run() {
         std::vector<std::unique_ptr<Result>> results;
-        for (const auto& file : settings_.files.Files(tree_, culture_, reference_)) {
+        for (const auto& file : settings_.files.Files(tree_, culture_, reference_, program_)) {
             results.push_back(ResultOf(file));
         }
         bool all = true;
@@ -73,12 +76,14 @@ public:
 
 private:
     std::unique_ptr<Result> ResultOf(const ScopeFiles::File& file) const {
-        const Catalog catalog = Catalog::Read(file.path);
+        const lm_exchange::TranslatedFile translated = program_.format.Read(file.path);
         // Made where it stays: the changes refer to the texts.
-        auto result = std::make_unique<Result>(Result{
-            file.path, lm_exchange::ScopeTexts(tree_, culture_, reference_, file.scope), {}});
+        auto result = std::make_unique<Result>(
+            Result{file.path,
+                   lm_exchange::ScopeTexts(tree_, culture_, reference_, file.scope, lock_),
+                   {}});
         try {
-            result->import.emplace(ImportCatalog(catalog, result->texts, file.scope, culture_));
+            result->import.emplace(ImportFile(translated, program_.format, result->texts));
         } catch (const std::runtime_error& error) {
             throw std::runtime_error("'" + file.path + "' cannot be imported: " + error.what());
         }
@@ -87,7 +92,7 @@ private:
 
     void Finish(const Result& result) const {
         for (const std::string& error : result.import->errors) {
-            std::cerr << "localize-po: " << error << '\n';
+            std::cerr << program_.name << ": " << error << '\n';
         }
         const auto edits = result.import->changes.Edits();
         const std::string_view before = result.texts.Own().Bytes();
@@ -101,39 +106,47 @@ private:
             }
             lm_edit::WriteInTree(root_, result.texts.OwnPath(), after);
         }
-        PrintSummary(settings_.isDryRun ? std::cerr : std::cout, result);
+        PrintSummary(settings_.isDryRun ? std::cerr : std::cout, result,
+                     program_.format.GetWords().unfinished);
         if (!result.texts.HasOwnFile() && !edits.empty()) {
-            std::cerr << "localize-po: '" << lm_tree::Utf8Of(result.texts.OwnPath())
+            std::cerr << program_.name << ": '" << lm_tree::Utf8Of(result.texts.OwnPath())
                       << "' is new; 'localize add-missing' adds the keys that it lacks\n";
         }
     }
 
     const ImportSettings& settings_;
+    const ExchangeProgram& program_;
     const std::filesystem::path root_;
     const lm_tree::Tree tree_;
     const lm_tree::CultureName culture_;
     const lm_tree::CultureName reference_;
+    const lm_check::TranslationLock lock_;
 };
 
 }  // namespace
 
-void AddImportCommand(CLI::App& app, Task& chosen) {
+void AddImportCommand(CLI::App& app, Task& chosen, const ExchangeProgram& program) {
     const auto settings = std::make_shared<ImportSettings>();
-    CLI::App& command = localize::AddCommand(
+    const lm_exchange::Format::Words& words = program.format.GetWords();
+    const std::string name = words.name;
+    const std::string extension = words.extension;
+    const std::string call = std::string(program.command) + " import --root texts --culture de --";
+    CLI::App& command = AddCommand(
         app, chosen,
-        {"import", "Take over what translators changed in PO files; nothing else is touched",
-         "0 done, 1 some texts cannot be said in our files, 2 a PO file is not good and nothing "
-         "was changed",
-         "localize-po import --root texts --culture de --scope main de.po\n"
-         "         localize-po import --root texts --culture de --dry-run po/de"},
-        localize::ThatRuns([settings] { return ImportRun(*settings).Run(); }));
-    localize::AddRoot(command, settings->root);
-    localize::AddReference(command, settings->reference);
+        {"import",
+         "Take over what translators changed in " + name + " files; nothing else is touched",
+         "0 done, 1 some texts cannot be said in our files, 2 a " + name +
+             " file is not good and nothing was changed",
+         call + "scope main de." + extension + "\n         " + call + "dry-run " + extension +
+             "/de"},
+        ThatRuns([settings, program] { return ImportRun(*settings, program).Run(); }));
+    AddRoot(command, settings->root);
+    AddReference(command, settings->reference);
     command.add_option("--culture", settings->culture, "Culture whose texts they are")
         ->type_name("ISO")
         ->required();
     command.add_flag("--dry-run", settings->isDryRun, "Print what would change, and write nothing");
-    settings->files.AddTo(command);
+    settings->files.AddTo(command, program.format);
 }
 
-}  // namespace localize_po
+}  // namespace localize

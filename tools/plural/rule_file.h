@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "plural_forms.h"
+#include "plural/plural_forms.h"
 
-namespace localize_po {
+namespace lm_plural {
 
 /// The rule file that chooses the same forms.
 /// @return empty for a rule that such a file cannot say: with more than five forms, or that computes
 ///         more than remainders.
 std::optional<std::string> RuleFileOf(const PluralForms& forms);
 
-}  // namespace localize_po
+}  // namespace lm_plural
