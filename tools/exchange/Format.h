@@ -32,9 +32,9 @@ public:
     /// @return the bytes of a file with all texts that the format can hold.
     virtual std::string Write(const ScopeTexts& texts) const = 0;
 
-    /// @param path  "-" for standard input.
-    /// @throws std::runtime_error when the file cannot be read, or is none of the format.
-    virtual TranslatedFile Read(const std::string& path) const = 0;
+    /// @param path  where the bytes were read, for messages.
+    /// @throws std::runtime_error when they are no file of the format.
+    virtual TranslatedFile Read(const std::string& path, const std::string& bytes) const = 0;
 
     /// What a unit is translated from, as the units of files have it.
     virtual std::vector<std::string> SourcesOf(const Unit& unit, const ScopeTexts& texts) const = 0;

@@ -28,11 +28,6 @@ bool LacksForm(const std::vector<std::string>& texts, const std::vector<std::str
     return false;
 }
 
-/// Whether a unit goes out as one that is still to be translated.
-bool GoesOutOpen(const ScopeTexts::Text& text) {
-    return text.progress < ScopeTexts::Progress::Translated || text.exchange.HasOtherFormCount();
-}
-
 std::string Listed(const std::vector<std::string>& names) {
     std::string list;
     for (const std::string& name : names) {
@@ -107,10 +102,11 @@ private:
 
     void RequireForms() const {
         const std::vector<std::string> wanted = format_.FormNames(texts_);
-        for (const auto& [id, unit] : units_) {
-            if (!unit->formNames.empty() && unit->formNames != wanted) {
-                throw std::runtime_error("'" + unit->id + "' has the forms " +
-                                         Listed(unit->formNames) + " instead of " + Listed(wanted));
+        for (const TranslatedUnit& unit : file_.units) {
+            if (unit.state != State::Obsolete && !unit.formNames.empty() &&
+                unit.formNames != wanted) {
+                throw std::runtime_error("'" + unit.id + "' has the forms " +
+                                         Listed(unit.formNames) + " instead of " + Listed(wanted));
             }
         }
     }
@@ -141,7 +137,8 @@ private:
         const TranslatedUnit& brought = *found->second;
         units_.erase(found);
         const bool isSame = brought.targets == TargetsOf(texts_, unit) && !unit.own.empty();
-        const bool isOpen = brought.state == State::Open && (isSame || !GoesOutOpen(text));
+        // Tools that know no states leave ours, even where they change texts.
+        const bool isOpen = brought.state == State::Open && (isSame || !IsOpen(text, unit));
         if (brought.sources != format_.SourcesOf(unit, texts_)) {
             ++import_.counts.outdated;
         } else if (brought.state == State::Unfinished || isOpen) {

@@ -14,6 +14,11 @@ std::vector<std::string> NotesOf(const ScopeTexts::Text& text, const Unit& unit)
     return notes;
 }
 
+bool IsOpen(const ScopeTexts::Text& text, const Unit& unit) {
+    return unit.own.empty() || text.progress == ScopeTexts::Progress::Stale ||
+           text.exchange.HasOtherFormCount();
+}
+
 std::vector<std::string> TargetsOf(const ScopeTexts& texts, const Unit& unit) {
     std::vector<std::string> targets = unit.own;
     targets.resize(unit.isPlural ? texts.FormCount() : 1);

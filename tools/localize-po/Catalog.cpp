@@ -94,8 +94,7 @@ private:
 
 /// What the library does not look at.
 /// @return whether the last line ends.
-bool RequireUtf8(const std::string& path) {
-    const std::string bytes = localize::ReadBytes(path);
+bool RequireUtf8(const std::string& path, const std::string& bytes) {
     const lm_source::Encoding encoding = lm_source::EncodingOf(bytes);
     if (encoding.isUtf16 || !encoding.illFormed.empty()) {
         throw std::runtime_error("'" + path + "' is not UTF-8: save it as UTF-8");
@@ -230,8 +229,8 @@ Catalog::Catalog(const std::string& header)
     po_message_insert(end_.get(), message);
 }
 
-Catalog Catalog::Read(const std::string& path) {
-    const bool endsWithLine = RequireUtf8(path);
+Catalog Catalog::Read(const std::string& path, const std::string& bytes) {
+    const bool endsWithLine = RequireUtf8(path, bytes);
     const Complaints complaints;
     Catalog catalog(po_file_read(path.c_str(), Complaints::Handler()));
     catalog.endsWithLine_ = endsWithLine;

@@ -20,7 +20,7 @@ public:
     explicit Catalog(const std::string& header);
 
     /// @throws std::runtime_error when the file cannot be read, or is no PO file in UTF-8.
-    static Catalog Read(const std::string& path);
+    static Catalog Read(const std::string& path, const std::string& bytes);
 
     /// Whether the last line is one; what was cut off may end anywhere.
     bool EndsWithLine() const noexcept { return endsWithLine_; }

@@ -83,8 +83,8 @@ std::string PoFormat::Write(const ScopeTexts& texts) const {
     return catalog.Bytes();
 }
 
-TranslatedFile PoFormat::Read(const std::string& path) const {
-    const Catalog catalog = Catalog::Read(path);
+TranslatedFile PoFormat::Read(const std::string& path, const std::string& bytes) const {
+    const Catalog catalog = Catalog::Read(path, bytes);
     TranslatedFile file;
     file.language = catalog.HeaderField("Language");
     file.pluralForms = catalog.HeaderField("Plural-Forms");

@@ -12,7 +12,8 @@ public:
                   "'msgmerge' it with a new export"}) {}
 
     std::string Write(const lm_exchange::ScopeTexts& texts) const override;
-    lm_exchange::TranslatedFile Read(const std::string& path) const override;
+    lm_exchange::TranslatedFile Read(const std::string& path,
+                                     const std::string& bytes) const override;
     std::vector<std::string> SourcesOf(const lm_exchange::Unit& unit,
                                        const lm_exchange::ScopeTexts& texts) const override;
     std::vector<std::string> FormNames(const lm_exchange::ScopeTexts& texts) const override;

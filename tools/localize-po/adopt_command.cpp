@@ -92,7 +92,7 @@ private:
 
     void ReadSources() {
         for (const std::string& path : settings_.files) {
-            Source source{path, Catalog::Read(path), std::nullopt};
+            Source source{path, Catalog::Read(path, localize::ReadBytes(path)), std::nullopt};
             const fs::path file = lm_tree::PathOf(path);
             if (file.extension() != ".pot") {
                 // Headers often name the language alone where the file's name says more.

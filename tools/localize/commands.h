@@ -19,6 +19,7 @@ void AddReportCommand(CLI::App& app, Task& chosen);
 void AddKeysCommand(CLI::App& app, Task& chosen);
 void AddUsageCommand(CLI::App& app, Task& chosen);
 void AddLspCommand(CLI::App& app, Task& chosen);
+void AddXliffCommand(CLI::App& app, Task& chosen);   // where its library is
 void AddCheckCommands(CLI::App& app, Task& chosen);  // `check` and `accept`
 
 /// In the order in which --help names them.
@@ -38,6 +39,9 @@ inline void AddAllCommands(CLI::App& app, Task& chosen) {
     AddKeysCommand(app, chosen);
     AddUsageCommand(app, chosen);
     AddLspCommand(app, chosen);
+#ifdef LM_HAS_XLIFF
+    AddXliffCommand(app, chosen);
+#endif
 }
 
 }  // namespace localize

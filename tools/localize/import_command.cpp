@@ -10,12 +10,16 @@
 #include "exchange/import_file.h"
 #include "exchange_commands.h"
 #include "read_lock.h"
+#include "read_text.h"
 #include "tree/choose_cultures.h"
 #include "tree/path_text.h"
 
 namespace localize {
 
 namespace {
+
+/// Nobody's scope is larger.
+constexpr std::size_t kLargestFile = std::size_t{1} << 28;
 
 struct ImportSettings {
     std::string root;
@@ -76,7 +80,8 @@ public:
 
 private:
     std::unique_ptr<Result> ResultOf(const ScopeFiles::File& file) const {
-        const lm_exchange::TranslatedFile translated = program_.format.Read(file.path);
+        const lm_exchange::TranslatedFile translated =
+            program_.format.Read(file.path, ReadBytes(file.path, kLargestFile));
         // Made where it stays: the changes refer to the texts.
         auto result = std::make_unique<Result>(
             Result{file.path,

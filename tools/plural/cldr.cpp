@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "plural/CldrRow.h"
+#include "plural/number_ranges.h"
 #include "plural/parse_rule.h"
 
 namespace lm_plural {
@@ -106,6 +107,22 @@ std::optional<std::vector<CldrDifference>> CompareWithCldr(
         differences.push_back({names[choice.first], choice.second, std::move(different)});
     }
     return differences;
+}
+
+std::vector<std::string> CategoryNames(const PluralRule& rule, std::string_view culture) {
+    const CldrRow* const row = RowOf(culture);
+    std::vector<std::string> categories;
+    std::array<std::size_t, kSlots> categoryOf{};
+    if (row != nullptr) {
+        categories = Words(row->categories);
+        categoryOf = Match(rule, CategoriesOf(*row, TellingNumbers()), TellingNumbers());
+    }
+    std::vector<std::string> names;
+    for (std::size_t form = 0; form < std::max<std::size_t>(rule.FormCount(), 1); ++form) {
+        const bool isKnown = form < kSlots && categoryOf[form] < categories.size();
+        names.push_back(isKnown ? categories[categoryOf[form]] : "form" + std::to_string(form + 1));
+    }
+    return names;
 }
 
 }  // namespace lm_plural

@@ -1,4 +1,4 @@
-// Where a plural rule and CLDR choose differently.
+// Plural rules beside those of CLDR.
 #pragma once
 
 #include <cstdint>
@@ -25,5 +25,9 @@ struct CldrDifference {
 /// @return empty when CLDR does not know the culture.
 std::optional<std::vector<CldrDifference>> CompareWithCldr(
     const PluralRule& rule, std::string_view culture, const std::vector<std::uint64_t>& numbers);
+
+/// What translators' tools call the forms: CLDR's categories where they belong together, else "form1",
+/// "form2". No two are the same.
+std::vector<std::string> CategoryNames(const PluralRule& rule, std::string_view culture);
 
 }  // namespace lm_plural
