@@ -1,6 +1,7 @@
 #include "exchange/Exchange.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -192,6 +193,9 @@ void Exchange::RequireNames(const Unit& unit, const std::vector<std::string>& tr
             throw Inexpressible("'{" + name + "}' of the reference is missing");
         }
     }
+    if (unit.isPlural) {
+        RequireNamesInForms(unit, translation);
+    }
     std::set<std::string> allowed = wanted;
     allowed.insert(before.begin(), before.end());
     for (const Message* const message : {&reference_, own_ ? &*own_ : nullptr}) {
@@ -210,6 +214,41 @@ void Exchange::RequireNames(const Unit& unit, const std::vector<std::string>& tr
     }
 }
 
+/// What all forms of the reference name. A form that one number alone has need not tell it.
+void Exchange::RequireNamesInForms(const Unit& unit, const Texts& forms) const {
+    std::set<std::string> wanted = NamesIn(unit.reference);
+    for (const std::string& text : unit.reference) {
+        const std::set<std::string> names = NamesIn({text});
+        for (auto name = wanted.begin(); name != wanted.end();) {
+            name = names.count(*name) != 0 ? std::next(name) : wanted.erase(name);
+        }
+    }
+    const std::string& number = ParameterOf(unit);
+    for (std::size_t form = 0; form < forms.size(); ++form) {
+        const bool mayLackNumber =
+            form >= counts_.severalNumbers.size() || !counts_.severalNumbers[form];
+        const std::set<std::string> now = NamesIn({forms[form]});
+        const std::set<std::string> before =
+            form < unit.own.size() ? NamesIn({unit.own[form]}) : wanted;
+        for (const std::string& name : wanted) {
+            const bool isNumber =
+                name == number || name.compare(0, number.size() + 1, number + '.') == 0;
+            if (now.count(name) == 0 && before.count(name) != 0 && !(isNumber && mayLackNumber)) {
+                throw Inexpressible("'{" + name + "}' of the reference is missing in the form '" +
+                                    forms[form] + '\'');
+            }
+        }
+    }
+}
+
+/// The one that chooses the form.
+const std::string& Exchange::ParameterOf(const Unit& unit) const {
+    if (!unit.number.empty()) {
+        return PluralOf(unit.number).parameter;
+    }
+    return OnlyPlural(own_ && own_->IsPlural() ? *own_ : reference_).parameter;
+}
+
 /// One text with a plural form around all of it, but for what stood around it before.
 Message Exchange::WithForms(const std::vector<std::string>& forms) const {
     const bool wasPlural = own_ ? own_->IsPlural() : reference_.IsPlural();
@@ -221,12 +260,11 @@ Message Exchange::WithForms(const std::vector<std::string>& forms) const {
     if (own_ && own_->IsPlural() && RemoveFrame(texts, FrameOf(*own_))) {
         frame = FrameOf(*own_);
     }
-    const Plural& plural = OnlyPlural(own_ && own_->IsPlural() ? *own_ : reference_);
     Message message;
     Append(message.phrase, ReadFlat(frame.head, names_));
     Append(message.phrase, Part{Part::Kind::Plural, "1"});
     Append(message.phrase, ReadFlat(frame.tail, names_));
-    message.plurals["1"] = {plural.parameter, Read(texts)};
+    message.plurals["1"] = {ParameterOf(units_.front()), Read(texts)};
     return message;
 }
 

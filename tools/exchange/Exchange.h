@@ -25,8 +25,9 @@ struct Unit {
 
 /// What the two cultures' rules say of forms.
 struct FormCounts {
-    std::size_t referenceOne = 0;  // the reference's form for 1
-    std::size_t own = 1;           // at least one
+    std::size_t referenceOne = 0;           // the reference's form for 1
+    std::size_t own = 1;                    // at least one
+    std::vector<bool> severalNumbers = {};  // whether each of the own forms serves several
 };
 
 /// A text with one plural form where reference or translation has it is one unit, with the text
@@ -53,6 +54,8 @@ private:
     void AddParts();
     std::vector<std::string> Filled(std::vector<std::string> forms);
     void RequireNames(const Unit& unit, const std::vector<std::string>& translation) const;
+    void RequireNamesInForms(const Unit& unit, const std::vector<std::string>& forms) const;
+    const std::string& ParameterOf(const Unit& unit) const;
     Message WithForms(const std::vector<std::string>& forms) const;
     const Plural& PluralOf(const std::string& number) const;
     std::vector<Phrase> Read(const std::vector<std::string>& texts) const;

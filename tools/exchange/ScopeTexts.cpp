@@ -99,6 +99,10 @@ ScopeTexts::Progress ScopeTexts::ProgressOf(const Document& reference, const Ent
 
 void ScopeTexts::AddTexts(const Document& reference, std::size_t referenceOne,
                           const lm_check::TranslationLock& lock) {
+    FormCounts counts{referenceOne, FormCount(), {}};
+    for (std::size_t form = 0; rule_ && form < rule_->FormCount(); ++form) {
+        counts.severalNumbers.push_back(rule_->UseOf(form) == lm_plural::Use::Several);
+    }
     for (std::size_t number = 0; number < reference.Entries().size(); ++number) {
         const Entry& entry = reference.Entries()[number];
         std::vector<std::string> comments;
@@ -114,10 +118,9 @@ void ScopeTexts::AddTexts(const Document& reference, std::size_t referenceOne,
                 progress = ProgressOf(reference, entry, *ownEntry, lock);
             }
         }
-        texts_.push_back(
-            {std::string(reference.Key(entry)), std::move(comments),
-             Exchange(MessageOf(reference, entry), std::move(message), {referenceOne, FormCount()}),
-             ownEntry, progress});
+        texts_.push_back({std::string(reference.Key(entry)), std::move(comments),
+                          Exchange(MessageOf(reference, entry), std::move(message), counts),
+                          ownEntry, progress});
     }
     for (const Entry& entry : own_.Entries()) {
         if (reference.Find(own_.Key(entry)) == nullptr) {

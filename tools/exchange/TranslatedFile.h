@@ -25,10 +25,17 @@ struct TranslatedUnit {
 };
 
 struct TranslatedFile {
-    std::string language;  // as it writes it
-    std::optional<std::string>
-        pluralForms;        // gettext's field; empty for a format that may be without
-    bool isCutOff = false;  // its end is lost
+    /// What a file that was cut off ends with.
+    enum class End : std::uint8_t {
+        Sealed,      // it says that it ends
+        PartOfLine,  // nobody leaves it so
+        Line,
+        FurtherLine  // of a text that began above
+    };
+
+    std::string language;                    // as it writes it
+    std::optional<std::string> pluralForms;  // gettext's; empty for a format that may do without
+    End end = End::Sealed;
     std::vector<TranslatedUnit> units;
 };
 

@@ -36,6 +36,30 @@ std::string Listed(const std::vector<std::string>& names) {
     return list;
 }
 
+bool EndsWith(const std::string& text, char unit) {
+    return !text.empty() && text.back() == unit;
+}
+
+/// Whether the last text of a file ends where one of its lines does, and not in its own way.
+/// @param whole          what it was.
+/// @param reference      what it is a translation of.
+/// @param isFurtherLine  whether the file's last line goes on with it.
+bool BreaksOff(const std::string& text, const std::string& whole, const std::string& reference,
+               bool isFurtherLine) {
+    if (text.empty()) {
+        constexpr std::size_t kShort = 60;  // too short for several lines, unless it has some
+        return whole.size() > kShort || whole.find('\n') != std::string::npos;
+    }
+    // Editors part texts at blanks, signs, and between characters of Asia.
+    const char end = text.back();
+    const bool isAtBreak = std::string_view(" \n\t-/").find(end) != std::string_view::npos ||
+                           static_cast<unsigned char>(end) > 127;
+    const bool isStart = whole.size() > text.size() && whole.compare(0, text.size(), text) == 0;
+    const bool isOddEnd =
+        (end == ' ' || end == '\n') && !EndsWith(whole, end) && !EndsWith(reference, end);
+    return isFurtherLine && ((isAtBreak && isStart) || isOddEnd);
+}
+
 class Importer {
 public:
     Importer(const TranslatedFile& file, const Format& format, const ScopeTexts& texts)
@@ -45,6 +69,7 @@ public:
         RequireLanguage();
         TakeUnits();
         RequireRule();
+        RequireWholeEnd();
         RequireForms();
         RequireWhole();
         for (const ScopeTexts::Text& text : texts_.Texts()) {
@@ -113,9 +138,6 @@ private:
 
     /// What was translated when the file was written is in it, unless its end is lost.
     void RequireWhole() const {
-        if (file_.isCutOff) {
-            throw std::runtime_error("it is not whole: its last line does not end");
-        }
         for (const ScopeTexts::Text& text : texts_.Texts()) {
             const std::string id = UnitId(texts_, text, text.exchange.Units().front());
             if (text.exchange.HasOwn() && units_.count(id) == 0 && obsolete_.count(id) == 0 &&
@@ -124,6 +146,30 @@ private:
                                          "', which is translated, is not in it: the file is not "
                                          "whole, or older: " +
                                          format_.GetWords().bringUpToDate);
+            }
+        }
+    }
+
+    /// The last text of a file may lack lines without a trace.
+    void RequireWholeEnd() const {
+        if (file_.end == TranslatedFile::End::PartOfLine) {
+            throw std::runtime_error("it is not whole: its last line does not end");
+        }
+        if (file_.end == TranslatedFile::End::Sealed || file_.units.empty() ||
+            file_.units.back().state == State::Obsolete) {
+            return;
+        }
+        const TranslatedUnit& last = file_.units.back();
+        for (const ScopeTexts::Text& text : texts_.Texts()) {
+            for (const Unit& unit : text.exchange.Units()) {
+                if (UnitId(texts_, text, unit) == last.id &&
+                    BreaksOff(last.targets.back(), unit.own.empty() ? "" : unit.own.back(),
+                              unit.reference.back(),
+                              file_.end == TranslatedFile::End::FurtherLine)) {
+                    throw std::runtime_error("it is not whole: its last text, '" + last.id +
+                                             "', breaks off (to shorten it so, change it in the "
+                                             "tree)");
+                }
             }
         }
     }

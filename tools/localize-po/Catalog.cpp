@@ -1,20 +1,18 @@
 #include "Catalog.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
-#include <filesystem>
+#include <cstring>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "TemporaryFile.h"
 #include "read_text.h"
 #include "source/Encoding.h"
-#include "tree/path_text.h"
 
 namespace localize_po {
 
@@ -25,7 +23,8 @@ constexpr const char* kFormat = "python-brace-format";
 /// What the library complains of while a function of it runs. It takes no object along.
 class Complaints {
 public:
-    Complaints() { current = this; }
+    /// @param name  of the file that the library works on, as users know it.
+    explicit Complaints(std::string name = {}) : name_(std::move(name)) { current = this; }
     Complaints(const Complaints&) = delete;
     Complaints& operator=(const Complaints&) = delete;
     ~Complaints() { current = nullptr; }
@@ -47,7 +46,7 @@ private:
         std::string complaint(text);
         complaint.resize(complaint.find_last_not_of('\n') + 1);
         if (file != nullptr && line != static_cast<std::size_t>(-1)) {
-            complaint = std::string(file) + ':' + std::to_string(line) + ": " + complaint;
+            complaint = current->name_ + ':' + std::to_string(line) + ": " + complaint;
         }
         current->all_.push_back(complaint);
         if (severity == PO_SEVERITY_FATAL_ERROR) {
@@ -65,39 +64,59 @@ private:
 
     static Complaints* current;
 
+    std::string name_;
     std::vector<std::string> all_;
 };
 
 Complaints* Complaints::current = nullptr;
 
-/// A file of no name that others know, removed in the end: the library reads and writes files alone.
-class TemporaryFile {
-public:
-    TemporaryFile() {
-        path_ = (std::filesystem::temp_directory_path() / "localize-po.XXXXXX").string();
-        const int file = ::mkstemp(path_.data());
-        if (file < 0) {
-            throw std::runtime_error("cannot make '" + path_ +
-                                     "': " + std::generic_category().message(errno));
+/// Lines that a text was parted into begin so.
+bool IsPiece(std::string_view line) {
+    return line.substr(0, 1) == "\"";
+}
+
+std::string_view LastLine(std::string_view bytes) {
+    const std::size_t last = bytes.find_last_not_of("\r\n");
+    bytes = bytes.substr(0, last == std::string_view::npos ? 0 : last + 1);
+    return bytes.substr(bytes.find_last_of('\n') + 1);
+}
+
+/// The value of an escape for a byte, "\ooo" or "\xhh"; 1 of any other.
+/// @param escape  begins with a backslash.
+unsigned long ByteOf(const std::string& escape) {
+    const bool isHex = escape.substr(1, 1) == "x";
+    const char* const begin = escape.c_str() + (isHex ? 2 : 1);
+    const std::string digits(begin,
+                             std::strspn(begin, isHex ? "0123456789abcdefABCDEF" : "01234567"));
+    return digits.empty() ? 1 : std::strtoul(digits.substr(0, 3).c_str(), nullptr, isHex ? 16 : 8);
+}
+
+/// The library would take what such escapes stand for as it is.
+void RequireTextsInEscapes(const std::string& path, std::string_view bytes) {
+    std::size_t number = 0;
+    while (!bytes.empty()) {
+        ++number;
+        const std::string_view line = bytes.substr(0, bytes.find('\n'));
+        bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
+        for (std::size_t at = line.substr(0, 1) == "#" ? line.size() : 0;
+             (at = line.find('\\', at)) < line.size(); at += 2) {
+            const std::string escape(line.substr(at, 5));
+            const unsigned long byte = ByteOf(escape);
+            if (byte == 0 || byte > 127) {
+                throw std::runtime_error(path + ':' + std::to_string(number) + ": '" +
+                                         escape.substr(0, 4) + "' stands for what no text holds");
+            }
         }
-        ::close(file);
     }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() { ::unlink(path_.c_str()); }
-
-    const std::string& Path() const noexcept { return path_; }
-
-private:
-    std::string path_;
-};
+}
 
 /// What the library does not look at.
-/// @return whether the last line ends.
-bool RequireUtf8(const std::string& path, const std::string& bytes) {
+void RequireText(const std::string& path, const std::string& bytes) {
     const lm_source::Encoding encoding = lm_source::EncodingOf(bytes);
     if (encoding.isUtf16 || !encoding.illFormed.empty()) {
-        throw std::runtime_error("'" + path + "' is not UTF-8: save it as UTF-8");
+        throw std::runtime_error("'" + path +
+                                 "' is not UTF-8: convert it with 'msgconv -t UTF-8', or save it "
+                                 "as UTF-8");
     }
     if (encoding.content.begin != 0) {
         throw std::runtime_error("'" + path +
@@ -107,7 +126,7 @@ bool RequireUtf8(const std::string& path, const std::string& bytes) {
     if (bytes.find('\0') != std::string::npos) {
         throw std::runtime_error("'" + path + "' has a zero character and is no PO file");
     }
-    return !bytes.empty() && bytes.back() == '\n';
+    RequireTextsInEscapes(path, bytes);
 }
 
 std::string TextOf(const char* text) {
@@ -230,10 +249,10 @@ Catalog::Catalog(const std::string& header)
 }
 
 Catalog Catalog::Read(const std::string& path, const std::string& bytes) {
-    const bool endsWithLine = RequireUtf8(path, bytes);
-    const Complaints complaints;
-    Catalog catalog(po_file_read(path.c_str(), Complaints::Handler()));
-    catalog.endsWithLine_ = endsWithLine;
+    RequireText(path, bytes);
+    const TemporaryFile file(bytes);  // the library reads files alone
+    const Complaints complaints(path);
+    Catalog catalog(po_file_read(file.Path().c_str(), Complaints::Handler()));
     if (!catalog.file_) {
         throw std::runtime_error("cannot read '" + path +
                                  "': " + std::generic_category().message(errno));
@@ -241,7 +260,14 @@ Catalog Catalog::Read(const std::string& path, const std::string& bytes) {
     if (!complaints.All().empty()) {
         throw std::runtime_error(complaints.All().front());
     }
+    catalog.endsWithLine_ = !bytes.empty() && bytes.back() == '\n';
+    catalog.endsWithPiece_ = IsPiece(LastLine(bytes));
     const std::string type = catalog.HeaderField("Content-Type");
+    if (type.empty()) {
+        throw std::runtime_error("'" + path +
+                                 "' has no header with a 'Content-Type': it is no PO " +
+                                 "file, or not whole");
+    }
     std::string charset = type.substr(std::min(type.find("charset="), type.size()));
     std::transform(charset.begin(), charset.end(), charset.begin(), [](char unit) {
         return unit >= 'A' && unit <= 'Z' ? static_cast<char>(unit - 'A' + 'a') : unit;

@@ -19,11 +19,15 @@ public:
     /// @param header  lines "Field: value".
     explicit Catalog(const std::string& header);
 
+    /// @param path  "-" for standard input.
     /// @throws std::runtime_error when the file cannot be read, or is no PO file in UTF-8.
     static Catalog Read(const std::string& path, const std::string& bytes);
 
     /// Whether the last line is one; what was cut off may end anywhere.
     bool EndsWithLine() const noexcept { return endsWithLine_; }
+
+    /// Whether the last line is a further piece of a text that began above.
+    bool EndsWithPiece() const noexcept { return endsWithPiece_; }
 
     /// A field of the header; empty when it is not there.
     std::string HeaderField(const char* name) const;
@@ -51,6 +55,7 @@ private:
 
     std::unique_ptr<po_file, Close> file_;
     bool endsWithLine_ = true;
+    bool endsWithPiece_ = false;
     Place end_;  // behind what was added
 };
 

@@ -88,7 +88,9 @@ TranslatedFile PoFormat::Read(const std::string& path, const std::string& bytes)
     TranslatedFile file;
     file.language = catalog.HeaderField("Language");
     file.pluralForms = catalog.HeaderField("Plural-Forms");
-    file.isCutOff = !catalog.EndsWithLine();
+    file.end = !catalog.EndsWithLine()   ? TranslatedFile::End::PartOfLine
+               : catalog.EndsWithPiece() ? TranslatedFile::End::FurtherLine
+                                         : TranslatedFile::End::Line;
     for (CatalogEntry& entry : catalog.Entries()) {
         file.units.push_back(UnitOf(std::move(entry)));
     }

@@ -8,6 +8,7 @@
 #include "Adoption.h"
 #include "FromUtf8.h"
 #include "TreeLayout.h"
+#include "UsageError.h"
 #include "commands.h"
 #include "edit/FileChange.h"
 #include "edit/write_whole.h"
@@ -55,6 +56,9 @@ public:
 
     /// Nothing is written unless all catalogs are good.
     bool Run() {
+        if (settings_.scope.find_first_of("/\\") != std::string::npos) {
+            throw localize::UsageError("'" + settings_.scope + "' is no name of a scope");
+        }
         ReadSources();
         std::error_code error;
         if (fs::exists(root_, error)) {
@@ -74,7 +78,6 @@ public:
         }
         AddCommonTexts();
         for (const lm_edit::FileChange& change : changes_) {
-            fs::create_directories(change.path.parent_path());
             lm_edit::WriteInTree(root_, change.path, change.bytes);
             std::cout << lm_tree::Utf8Of(change.path);
             if (change.count != 0) {

@@ -37,7 +37,8 @@ void ScopeFiles::AddTo(CLI::App& command, const lm_exchange::Format& format) {
         ->type_name("NAME");
     command
         .add_option(words.name, path,
-                    std::string("File of the scope; or without --scope a directory with a SCOPE.") +
+                    std::string("File of the scope, - for standard output or input; or without "
+                                "--scope a directory with a SCOPE.") +
                         words.extension + " for each")
         ->type_name("")
         ->required();

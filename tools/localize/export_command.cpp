@@ -3,6 +3,8 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <stdexcept>
+#include <system_error>
 
 #include "ScopeFiles.h"
 #include "UsageError.h"
@@ -31,8 +33,10 @@ void Write(const std::string& path, const std::string& bytes) {
         return;
     }
     const std::filesystem::path file = lm_tree::PathOf(path);
-    if (file.has_parent_path()) {
-        std::filesystem::create_directories(file.parent_path());
+    std::error_code error;
+    std::filesystem::create_directories(file.parent_path(), error);
+    if (error && file.has_parent_path()) {
+        throw std::runtime_error("cannot write '" + path + "': " + error.message());
     }
     lm_edit::WriteWhole(file, bytes);
 }
