@@ -34,7 +34,8 @@ WORDS = ["file", "_Open", "Größe", "100%%", "'", "{x}", "\\\\", "\\n", "$p1", 
 
 def texts(rng, count):
     """The same directives in some texts, in another order in the others."""
-    directives = rng.sample(["%1$s", "%2$d", "%3$5.2f"], rng.randrange(4)) if rng.random() < 0.5 else ["%s", "%-3lu"]
+    directives = rng.choice([rng.sample(["%1$s", "%2$d", "%3$5.2f"], rng.randrange(4)), ["%s", "%-3lu"],
+                             ["%(my name)s", "%m", "% %", "%<PRIu64>"]])
     for _ in range(count):
         if "$" in "".join(directives):
             rng.shuffle(directives)
@@ -66,9 +67,12 @@ def catalog(language, rule, seed):
 def shown(text, is_printf):
     """What printf makes of a text, with <1> for the first argument."""
     count = iter(range(1, 10))
-    directive = re.compile(r"%(?:%|(?:(\d)\$)?[-0-9.]*l?[sduf])")
-    return directive.sub(lambda match: "%" if match.group(0) == "%%" else f"<{match.group(1) or next(count)}>",
-                         text) if is_printf else text
+    directive = re.compile(r"%(?: ?%|(m)|\((.*?)\)s|(?:(\d)\$)?(?:[-0-9.]*l?[sduf]|<PRIu64>))")
+
+    def name(match):
+        return "%" if match.group(0).endswith("%") else f"<{next(filter(None, match.groups()), None) or next(count)}>"
+
+    return directive.sub(name, text) if is_printf else text
 
 
 def messages(po):
@@ -100,6 +104,7 @@ def main():
             assert len(keys) == len(entries)
             for number in NUMBERS:
                 params = [word for name in (1, 2, 3) for word in ("--param", f"p{name}=<{name}>")]
+                params += ["--param", "my_name=<my name>", "--param", "m=<m>"]
                 answers = json.loads(subprocess.run(
                     [TOOLS / "localize", "get", "--json", "--root", base / "tree", "--culture", culture, "--scope", "main",
                      "--param", f"n={number}", *params, *keys], check=True, capture_output=True).stdout)["results"]

@@ -89,6 +89,14 @@ public:
     }
 
 private:
+    static lm_plural::PluralForms FormsOf(const std::string& field) {
+        try {
+            return lm_plural::PluralForms(field.empty() ? kUsualForms : field);
+        } catch (const std::invalid_argument& error) {
+            throw std::runtime_error("its Plural-Forms '" + field + "' are " + error.what());
+        }
+    }
+
     static bool HasRegion(const lm_tree::CultureName& culture) {
         return !culture.culture->region.empty();
     }
@@ -135,9 +143,9 @@ private:
 
     void AddTranslation(const Source& source) {
         const lm_tree::CultureName& culture = *source.culture;
-        const std::string field = source.catalog.HeaderField("Plural-Forms");
         try {
-            const lm_plural::PluralForms forms(field.empty() ? kUsualForms : field);
+            const std::string field = source.catalog.HeaderField("Plural-Forms");
+            const lm_plural::PluralForms forms = FormsOf(field);
             std::vector<std::size_t> map = FormsFor(RuleOf(culture), forms);
             if (map.empty()) {
                 AddRule(culture, forms, field);
@@ -146,9 +154,6 @@ private:
             const Adoption::File file =
                 adoption_.Translation(source.catalog, map, RuleOf(culture).FormOf(1).value_or(0));
             Add(TextsPath(culture), file.bytes, file.translated);
-        } catch (const std::invalid_argument& error) {
-            throw std::runtime_error("'" + source.path + "': its Plural-Forms '" + field +
-                                     "' are " + error.what());
         } catch (const std::runtime_error& error) {
             throw std::runtime_error("'" + source.path + "': " + error.what());
         }

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <string>
+
+#include "source/Scanner.h"
 
 namespace localize_po {
 
@@ -10,6 +13,16 @@ using lm_exchange::Part;
 using lm_exchange::Phrase;
 
 namespace {
+
+/// A name that parameters of localisation files may have.
+std::string ValidName(std::string_view name) {
+    std::string valid;
+    for (const char unit : name) {
+        const bool isValid = lm_source::NameLength(std::string("_") + unit) == 2;
+        valid += isValid ? unit : '_';
+    }
+    return lm_source::NameLength(valid) != 0 ? valid : '_' + valid;
+}
 
 class PrintfReader {
 public:
@@ -26,13 +39,12 @@ public:
             const std::string_view before = rest_;
             const std::size_t arguments = arguments_;
             rest_.remove_prefix(1);
-            if (const auto name = ReadDirective()) {
-                Append(phrase, {Part::Kind::Parameter, *name});
+            if (const auto part = ReadDirective()) {
+                Append(phrase, *part);
             } else {
                 rest_ = before;
                 arguments_ = arguments;
                 AppendText(phrase, 1);
-                rest_.remove_prefix(rest_.substr(0, 1) == "%" ? 1 : 0);
             }
         }
         return phrase;
@@ -81,9 +93,9 @@ private:
         }
     }
 
-    /// The parameter's name; empty when it is none, or "%%".
-    std::optional<std::string> ReadDirective() {
-        std::string name(TakeUpTo('(', ')'));
+    /// The parameter, or what "%%" says; also "% %", as printf has it.
+    std::optional<Part> ReadDirective() {
+        const std::string_view name = TakeUpTo('(', ')');
         const std::string position(TakePosition());
         TakeAll("-+ #0'I");
         TakeSize();
@@ -93,16 +105,24 @@ private:
         TakeAll("hlqLjzt");
         const bool isMacro = !TakeUpTo('<', '>').empty();  // "%<PRIu64>"
         if (!isMacro) {
-            if (rest_.empty() || std::string_view("diouxXeEfFgGaAcsCSpnmr").find(rest_.front()) ==
-                                     std::string_view::npos) {
+            const char conversion = rest_.empty() ? '\0' : rest_.front();
+            if (std::string_view("diouxXbBeEfFgGaAcsCSpnmr@%").find(conversion) ==
+                std::string_view::npos) {
                 return std::nullopt;
             }
             rest_.remove_prefix(1);
+            if (conversion == '%') {
+                return Part{Part::Kind::Text, "%"};
+            }
+            if (conversion == 'm') {  // the last error, which no argument says
+                return Part{Part::Kind::Parameter, "m"};
+            }
         }
-        if (name.empty()) {
-            name = 'p' + (position.empty() ? std::to_string(++arguments_) : position);
+        if (!name.empty()) {
+            return Part{Part::Kind::Parameter, ValidName(name)};
         }
-        return name;
+        return Part{Part::Kind::Parameter,
+                    'p' + (position.empty() ? std::to_string(++arguments_) : position)};
     }
 
     std::string_view rest_;
