@@ -1,18 +1,10 @@
 #include "checkers.h"
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-#include <iostream>
-#include <memory>
-#include <sstream>
-#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "Module.h"
+#include "programs.h"
 
 namespace lm_bench {
 
@@ -22,34 +14,8 @@ namespace fs = std::filesystem;
 
 constexpr int kCultures = 40;  // the reference, a language, and its regions
 
-/// What a program took.
-struct Use {
-    double processor;  // seconds
-    double memory;     // bytes, at the most
-};
-
-double Seconds(const timeval& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-}
-
-/// Runs a program that must find nothing wrong. Another process starts it: the peak of a program's
-/// memory is not less than what its parent had.
-Use Run(const std::string& program) {
-    const std::string command =
-        "exec " + fs::read_symlink("/proc/self/exe").string() + " --run " + program;
-    const std::unique_ptr<FILE, int (*)(FILE*)> output(popen(command.c_str(), "r"), pclose);
-    std::array<char, 128> line{};
-    Use use{};
-    if (std::fgets(line.data(), line.size(), output.get()) == nullptr ||
-        !(std::istringstream(line.data()) >> use.processor >> use.memory)) {
-        throw std::runtime_error("failed: " + command);
-    }
-    return use;
-}
-
 Use RunCheck(const fs::path& tree) {
-    const fs::path tool = fs::read_symlink("/proc/self/exe").parent_path() / "localize";
-    return Run(tool.string() + " check --fail-on warning --root " + tree.string());
+    return RunProgram(Tool("localize") + " check --fail-on warning --root " + tree.string());
 }
 
 /// The texts of a message in the language that it is translated from, with a sign for the gap.
@@ -76,24 +42,6 @@ std::string ReferenceSource(const Workload& workload) {
                            : '\'' + texts[0] + "'\n";
     }
     return source;
-}
-
-/// Writes the tree unless it is there.
-/// @param cultures  how many; the regions have copies of the language's texts.
-fs::path Tree(const Catalogues& catalogues, int cultures) {
-    fs::path tree = catalogues.directory() / ("checked-" + std::to_string(cultures));
-    if (exists(tree)) {
-        return tree;
-    }
-    WriteScope(tree, "main", catalogues.workload());
-    WriteFile(tree / "ru/Locs/common.lt", "");
-    for (int region = 2; region < cultures; ++region) {
-        fs::copy(tree / "ru", tree / ("ru-r" + std::to_string(region)),
-                 fs::copy_options::recursive);
-    }
-    WriteFile(tree / "en/Locs/main.lt", ReferenceSource(catalogues.workload()));
-    WriteFile(tree / "en/Locs/common.lt", "");
-    return tree;
 }
 
 std::string PoEntry(const Message& message) {
@@ -135,15 +83,31 @@ fs::path PoFile(const Catalogues& catalogues) {
 
 }  // namespace
 
+fs::path CheckedTree(const Catalogues& catalogues, int cultures) {
+    fs::path tree = catalogues.directory() / ("checked-" + std::to_string(cultures));
+    if (exists(tree)) {
+        return tree;
+    }
+    WriteScope(tree, "main", catalogues.workload());
+    WriteFile(tree / "ru/Locs/common.lt", "");
+    for (int region = 2; region < cultures; ++region) {
+        fs::copy(tree / "ru", tree / ("ru-r" + std::to_string(region)),
+                 fs::copy_options::recursive);
+    }
+    WriteFile(tree / "en/Locs/main.lt", ReferenceSource(catalogues.workload()));
+    WriteFile(tree / "en/Locs/common.lt", "");
+    return tree;
+}
+
 void MeasureCheck(benchmark::State& state, const Catalogues& catalogues) {
-    const fs::path tree = Tree(catalogues, 2);
+    const fs::path tree = CheckedTree(catalogues, 2);
     for ([[maybe_unused]] auto _ : state) {
         state.SetIterationTime(RunCheck(tree).processor);
     }
 }
 
 void MeasureCheckOfMany(benchmark::State& state, const Catalogues& catalogues) {
-    const fs::path tree = Tree(catalogues, kCultures);
+    const fs::path tree = CheckedTree(catalogues, kCultures);
     Use use{};
     for ([[maybe_unused]] auto _ : state) {
         use = RunCheck(tree);
@@ -157,25 +121,9 @@ void MeasureCheckOfMany(benchmark::State& state, const Catalogues& catalogues) {
 void MeasureMsgfmt(benchmark::State& state, const Catalogues& catalogues) {
     const std::string file = PoFile(catalogues).string();
     for ([[maybe_unused]] auto _ : state) {
-        state.SetIterationTime(Run("msgfmt --check --output-file=/dev/null " + file).processor);
+        state.SetIterationTime(
+            RunProgram("msgfmt --check --output-file=/dev/null " + file).processor);
     }
-}
-
-int PrintUse(char** arguments) {
-    posix_spawn_file_actions_t silence;
-    posix_spawn_file_actions_init(&silence);
-    posix_spawn_file_actions_addopen(&silence, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    pid_t child = 0;
-    const int failure = posix_spawnp(&child, arguments[0], &silence, nullptr, arguments, environ);
-    posix_spawn_file_actions_destroy(&silence);
-    int status = 0;
-    rusage use{};
-    if (failure != 0 || wait4(child, &status, 0, &use) != child || status != 0) {
-        return 1;
-    }
-    std::cout << Seconds(use.ru_utime) + Seconds(use.ru_stime) << ' ' << use.ru_maxrss * 1024
-              << '\n';
-    return 0;
 }
 
 }  // namespace lm_bench

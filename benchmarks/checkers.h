@@ -3,9 +3,15 @@
 
 #include <benchmark/benchmark.h>
 
+#include <filesystem>
+
 #include "Catalogues.h"
 
 namespace lm_bench {
+
+/// The workload as texts in Russian, of a reference in English; written unless it is there.
+/// @param cultures  how many; further ones are regions with copies of the language's texts.
+std::filesystem::path CheckedTree(const Catalogues& catalogues, int cultures);
 
 /// `localize check` over a reference and one translation.
 void MeasureCheck(benchmark::State& state, const Catalogues& catalogues);
@@ -15,10 +21,5 @@ void MeasureCheckOfMany(benchmark::State& state, const Catalogues& catalogues);
 
 /// `msgfmt --check` over the same translation.
 void MeasureMsgfmt(benchmark::State& state, const Catalogues& catalogues);
-
-/// Runs a program, and prints the seconds of the processor, and the bytes, that it took.
-/// @param arguments  the program and what it is given, with a null pointer behind.
-/// @return zero when the program found nothing wrong.
-int PrintUse(char** arguments);
 
 }  // namespace lm_bench

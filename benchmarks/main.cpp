@@ -23,7 +23,9 @@
 #include "Catalogues.h"
 #include "Module.h"
 #include "checkers.h"
+#include "exchange.h"
 #include "memory.h"
+#include "programs.h"
 #include "stages.h"
 
 namespace {
@@ -211,9 +213,10 @@ void RegisterMemory(Catalogues& catalogues, const SystemType& type) {
     })->Iterations(1);
 }
 
-void RegisterChecker(Catalogues& catalogues, const char* program,
+/// @param task  what programs are measured at.
+void RegisterProgram(Catalogues& catalogues, const char* task, const char* program,
                      void (*measure)(benchmark::State&, const Catalogues&)) {
-    Register(catalogues, {"check", program},
+    Register(catalogues, {task, program},
              [&catalogues, measure](auto& state) { measure(state, catalogues); })
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond);
@@ -241,9 +244,12 @@ void RegisterAll(Catalogues& catalogues) {
     RegisterStage(catalogues, "reading and decoding", MeasureDecoding);
     RegisterStage(catalogues, "parsing", MeasureParsing);
     RegisterStage(catalogues, "compiling", MeasureCompiling);
-    RegisterChecker(catalogues, "localize", MeasureCheck);
-    RegisterChecker(catalogues, "localize, 40 cultures", MeasureCheckOfMany);
-    RegisterChecker(catalogues, "msgfmt", MeasureMsgfmt);
+    RegisterProgram(catalogues, "check", "localize", MeasureCheck);
+    RegisterProgram(catalogues, "check", "localize, 40 cultures", MeasureCheckOfMany);
+    RegisterProgram(catalogues, "check", "msgfmt", MeasureMsgfmt);
+    RegisterProgram(catalogues, "exchange", "localize-po", MeasureExchange);
+    RegisterProgram(catalogues, "exchange", "libgettextpo", MeasureGettextPo);
+    RegisterProgram(catalogues, "exchange", "msgmerge and msgfmt", MeasureMsgmerge);
     for (const SystemType* type : kTypes) {
         RegisterMemory(catalogues, *type);
         RegisterThreads(catalogues, *type);

@@ -63,6 +63,12 @@ class Results:
         """Of the programs that judge catalogues: milliseconds, or a counter."""
         return self.medians[f"check/{program}/{MIDDLE}/manual_time"][field]
 
+    def exchange(self, program):
+        """Of the time of an export and an import."""
+        times = [self.medians[f"exchange/{name}/{MIDDLE}/manual_time"]["real_time"]
+                 for name in ("localize-po", program)]
+        return times[0] / times[1]
+
     def check_share(self):
         """Of the time per message: the check judges the reference's messages, too."""
         return self.check("localize") / 2 / self.check("msgfmt")
@@ -108,6 +114,8 @@ def goals(results):
                         results.check_share(), 1 / 3))
     rows.append(at_most("localize check of 40 cultures, memory, in sizes of the largest culture and the reference",
                         results.check(MANY, "peak_per_sources"), 3))
+    rows.append(at_most("localize-po, export and import, time against libgettextpo's reading and writing",
+                        results.exchange("libgettextpo"), 2))
     speedup = results.speedup("module")
     rows.append(("requests per second of two threads, against one", speedup, "≥ 1.90", speedup >= 1.9))
     return rows
@@ -207,6 +215,12 @@ cultures with 30,000 messages each takes {results.check(MANY) / 1000:.1f} s of p
 are, and {ratio_text(results.check(MANY, "peak_per_sources"))} times as much memory as the sources of its largest culture
 and the reference together.
 
+## To translators and back
+
+`localize-po` exports and imports 30,000 messages in {ratio_text(results.exchange("libgettextpo"))} times what gettext's
+library, which it uses, takes to read and write the same file, and in
+{ratio_text(results.exchange("msgmerge and msgfmt"))} times what `msgmerge` and `msgfmt` together take with it.
+
 ## Method
 
 - Workload: Russian texts, made by `benchmarks/Workload.cpp`; a third plain, a third with one parameter, a third
@@ -228,6 +242,8 @@ and the reference together.
 - Growth is time added from 300 to 300,000 messages, of the module and of the peer that is fastest at 30,000.
 - Judging: the programs as they are run by hand, processor time of the whole process. `msgfmt` reads 30,000 messages
   with their translations; `localize` the same texts as two cultures of 30,000 messages, and judges both.
+- To translators and back: the programs as they are run by hand, processor time of the whole processes; the library's
+  in a program that does nothing else. The import finds nothing changed. `msgmerge` merges the file with itself.
 - Threads: one, then two, in turn, time on the clock, each thread from a place of its own in the sequence.
 - Figures are medians of {results.runs} runs, each a process of its own, since where a process's memory lies makes
   more of a difference than most else; a run measures everything once, in random order. Times are processor time
