@@ -1,9 +1,8 @@
-"""Takes generated trees, with all that a value can hold, and the samples to PO files and back.
+"""Takes generated trees, with all that a value can hold, and the samples to translators' files and back.
 
-The tools of gettext and of the translate toolkit judge the files; what the engine answers is compared with
-what the catalogs say.
+Other tools for the formats judge the files; what the engine answers is compared with what the files say.
 
-usage: round_trip.py DIRECTORY-OF-THE-TOOLS SAMPLE-TREE SEED...
+usage: round_trip.py DIRECTORY-OF-THE-TOOLS SAMPLE-TREE po|xliff SEED...
 """
 import gettext
 import json
@@ -14,10 +13,11 @@ import shutil
 import subprocess
 import sys
 import tempfile
+from xml.etree import ElementTree
 
-from translate.storage import pypo
+from translate.storage import pypo, xliff
 
-TOOLS, SAMPLES = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+TOOLS, SAMPLES, SEEDS = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[4:]
 CULTURES = {"en": 2, "de": 2, "ru": 3, "ar": 6, "ja": 1, "pl": 2, "zh-Hant-hk": 1}
 RULES = {"pl": "n%7==1 && (n<20 || n==50);\nn >= 2;\n"}  # leaves numbers out
 PARAMS = {"count": "3", "days": "1", "who": "Ann", "a.b": "x", "_x.": "y", "p..q": "z", "r.1": "w", "Both": "v"}
@@ -94,36 +94,114 @@ def files(root):
     return {path: path.read_bytes() for path in root.rglob("*") if path.is_file()}
 
 
-def catalog(path):
-    """The messages by context, as an independent reader sees them."""
-    store = pypo.pofile.parsefile(str(path))
-    return store, {unit.getcontext(): unit for unit in store.units if not unit.isheader() and not unit.isobsolete()}
+class PoFile:
+    """A file as an independent reader sees it: texts are called by their contexts."""
+    COMMAND, EXTENSION = ("localize-po",), "po"
+
+    def __init__(self, path):
+        self.store = pypo.pofile.parsefile(str(path))
+        self.units = {unit.getcontext(): unit for unit in self.store.units
+                      if not unit.isheader() and not unit.isobsolete()}
+        self.rule = self.store.parseheader()["Plural-Forms"]
+
+    def forms(self, context):
+        target = self.units[context].target
+        return [str(form) for form in getattr(target, "strings", [target])]
+
+    def is_open(self, context):
+        return self.units[context].isfuzzy()
+
+    def set(self, context, forms):
+        self.units[context].target = forms if len(forms) > 1 else forms[0]
+
+    def save(self, path):
+        path.write_bytes(bytes(self.store))
+
+    @staticmethod
+    def judge(path):
+        """@return files that other tools made, and that say the same."""
+        run("msgfmt", "-c", "-o", "/dev/null", path)
+        merged = path.with_suffix(".merged")
+        run("msgmerge", "--quiet", "--previous", "--no-wrap", "-o", merged, path, path)
+        run("msgattrib", "--no-fuzzy", "--translated", "-o", path.with_suffix(".done"), path)
+        run("pofilter", "--progress=none", "-t", "pythonbraceformat", path, path.with_suffix(".filtered"))
+        return [merged]
 
 
-def forms(unit):
-    target = unit.target
-    return [str(form) for form in getattr(target, "strings", [target])]
+class XliffFile:
+    COMMAND, EXTENSION = ("localize", "xliff"), "xlf"
+    NAMESPACE = "{urn:oasis:names:tc:xliff:document:1.2}"
+    SCHEMAS = pathlib.Path("/usr/share/php/Symfony/Component/Translation/Resources/schemas")
 
+    def __init__(self, path):
+        ElementTree.register_namespace("", self.NAMESPACE[1:-1])
+        self.tree = ElementTree.parse(path)
+        self.units = {}
+        for unit in self.tree.iter(self.NAMESPACE + "trans-unit"):
+            self.units.setdefault(unit.get("id").split("[")[0], []).append(unit)
+        self.rule = self.tree.find(f".//{self.NAMESPACE}header/{self.NAMESPACE}note").text
 
-def judge(path):
-    run("msgfmt", "-c", "-o", "/dev/null", path)
-    merged = path.with_suffix(".merged")
-    run("msgmerge", "--quiet", "--previous", "--no-wrap", "-o", merged, path, path)
-    run("msgattrib", "--no-fuzzy", "--translated", "-o", path.with_suffix(".done"), path)
-    run("pofilter", "--progress=none", "-t", "pythonbraceformat", path, path.with_suffix(".filtered"))
-    return merged
+    def targets(self, context):
+        return [unit.find(self.NAMESPACE + "target") for unit in self.units[context]]
+
+    def flat(self, element):
+        text = re.sub(r"[{}]", r"\g<0>\g<0>", element.text or "")
+        for child in element:
+            name = child.get("id").split(":")[0]
+            shown = name if name.startswith("U+") else "{" + name + "}"
+            assert child.get("equiv-text", shown) == shown  # tools may leave it out
+            text += chr(int(name[2:], 16)) if name.startswith("U+") else shown
+            text += re.sub(r"[{}]", r"\g<0>\g<0>", child.tail or "")
+        return text
+
+    def forms(self, context):
+        return [self.flat(target) for target in self.targets(context)]
+
+    def is_open(self, context):
+        return any(target.get("state") == "needs-translation" for target in self.targets(context))
+
+    def set(self, context, forms):
+        for target, form in zip(self.targets(context), forms):
+            del target[:]
+            target.text = ""
+            for text, name in re.findall(r"((?:[^{}\x00-\x08\x0b-\x1f]|\{\{|\}\})+)|(\{[^{}]*\}|.)", form, re.S):
+                if name:
+                    name = name[1:-1] if len(name) > 1 else f"U+{ord(name):04X}"
+                    ElementTree.SubElement(target, self.NAMESPACE + "x", {"id": name}).tail = ""
+                elif len(target):
+                    target[-1].tail += re.sub(r"([{}])\1", r"\1", text)
+                else:
+                    target.text += re.sub(r"([{}])\1", r"\1", text)
+
+    def save(self, path):
+        self.tree.write(path, encoding="utf-8", xml_declaration=True)
+
+    @classmethod
+    def judge(cls, path):
+        schema = path.with_suffix(".catalog")  # so that the schema of XML itself is found without a net
+        schema.write_text('<catalog xmlns="urn:oasis:names:tc:entity:xmlns:xml:catalog"><system systemId='
+                          f'"http://www.w3.org/2001/xml.xsd" uri="{(cls.SCHEMAS / "xml.xsd").as_uri()}"/></catalog>')
+        run("env", f"XML_CATALOG_FILES={schema}", "xmllint", "--nonet", "--noout", "--schema",
+            cls.SCHEMAS / "xliff-core-1.2-strict.xsd", path)
+        converted = path.with_suffix(".converted")
+        run("xliff2po", "--progress=none", path, converted)
+        assert converted.read_text().count("\n#: ") >= len(xliff.xlifffile.parsefile(str(path)).units)
+        saved = path.with_suffix(".saved")
+        xliff.xlifffile.parsefile(str(path)).savefile(str(saved))
+        written = path.with_suffix(".written")
+        cls(path).save(written)
+        return [saved, written]
 
 
 class Expected:
-    """What a program gets by gettext's means: the form by the header's rule, names replaced."""
+    """What a program gets by gettext's means: the form by the file's rule, names replaced."""
 
-    def __init__(self, store, messages, scope, references):
-        self.choose = gettext.c2py(re.search(r"plural=(.*?);", store.parseheader()["Plural-Forms"]).group(1))
-        self.messages, self.scope, self.references = messages, scope, references
+    def __init__(self, file, scope, references):
+        self.choose = gettext.c2py(re.search(r"plural=(.*?);", file.rule).group(1))
+        self.file, self.scope, self.references = file, scope, references
 
     def text(self, context, values):
-        unit = self.messages[context]
-        all_forms = forms(unit)
+        all_forms = self.file.forms(context)
         key = self.scope + "|" + context.split("|")[1]
 
         def replaced(match):
@@ -140,19 +218,18 @@ class Expected:
                       all_forms[self.choose(numbers.pop()) if len(all_forms) > 1 else 0])
 
 
-def is_whole(messages, context):
-    """Whether what a catalog says of a text is complete, and every name in it is one of a kind."""
-    key = "|".join(context.split("|")[:2])
-    units = [unit for name, unit in messages.items() if name == key or name.startswith(key + "|")]
-    return all(any(forms(unit)) and not unit.isfuzzy() and "{Both}" not in str(unit) for unit in units)
+def whole_texts(file):
+    """Those of which a file says all, and in which every name is one of a kind."""
+    lacking = {"|".join(name.split("|")[:2]) for name in file.units
+               if file.is_open(name) or not any(file.forms(name)) or "{Both}" in str(file.forms(name))}
+    return [name for name in file.units if "|".join(name.split("|")[:2]) not in lacking]
 
 
-def compare_with_engine(root, culture, scope, po, gaps):
+def compare_with_engine(kind, root, culture, scope, path, gaps):
     """@return how many texts were compared."""
-    store, messages = catalog(po)
-    references = {"app.name": "Demo", "both": "b"}
-    expected = Expected(store, messages, scope, references)
-    whole = [context for context in messages if context.count("|") == 1 and is_whole(messages, context)]
+    file = kind(path)
+    expected = Expected(file, scope, {"app.name": "Demo", "both": "b"})
+    whole = [context for context in whole_texts(file) if context.count("|") == 1]
     for number in NUMBERS:
         if number in gaps:
             continue
@@ -167,91 +244,90 @@ def compare_with_engine(root, culture, scope, po, gaps):
     return len(whole)
 
 
-def export(root, culture, scope, path):
-    run(TOOLS / "localize-po", "export", "--root", root, "--culture", culture, "--scope", scope, path)
+def exchange(kind, action, root, culture, scope, path, *words):
+    program, *commands = kind.COMMAND
+    return run(TOOLS / program, *commands, action, "--root", root, "--culture", culture, "--scope", scope, *words, path)
 
 
-def import_back(root, culture, scope, path):
-    return run(TOOLS / "localize-po", "import", "--root", root, "--culture", culture, "--scope", scope, path).decode()
-
-
-def edit_one(root, culture, scope, po, rng):
+def edit_one(kind, root, culture, scope, path, rng):
     """One translation changes: the tree then says that, and else what it said."""
-    store, before = catalog(po)
-    unit = rng.choice([unit for context, unit in before.items()
-                       if all(forms(unit)) and is_whole(before, context) and "|Key" in context])
-    edited = [form + rng.choice([" more", "'{{\\", " $count"]) for form in forms(unit)]
+    file = kind(path)
+    context = rng.choice([name for name in whole_texts(file) if all(file.forms(name)) and "|Key" in name])
+    old = file.forms(context)
+    edited = [form + rng.choice([" more", "'{{\\", " $count"]) for form in old]
     edited[0] = "first " + edited[0] if rng.random() < 0.5 else edited[0]
-    edited = [form + "\n" if old.endswith("\n") else form for form, old in zip(edited, forms(unit))]
-    had_reference = re.search(r"\{(App.Name|app.name)\}", "".join(forms(unit)))
+    edited = [form + "\n" if before.endswith("\n") else form for form, before in zip(edited, old)]
+    had_reference = re.search(r"\{(App.Name|app.name)\}", "".join(old))
     if had_reference:
         edited = [form for form in (text + " {" + had_reference.group(1) + "}" for text in edited)]
         if len(edited) > 1:  # else keys stand at different places, perhaps
             edited = edited[-1:] * len(edited)
-    unit.target = edited if len(edited) > 1 else edited[0]
-    changed = po.with_suffix(".edited")
-    changed.write_bytes(bytes(store))
+    file.set(context, edited)
+    wanted = {name: file.forms(name) for name in file.units}
+    assert wanted[context] == edited, (wanted[context], edited)
+    changed = path.with_suffix(".edited")
+    file.save(changed)
     untouched = files(root)
-    diff = run(TOOLS / "localize-po", "import", "--root", root, "--culture", culture, "--scope", scope, "--dry-run",
-               changed)
+    diff = exchange(kind, "import", root, culture, scope, changed, "--dry-run")
     assert files(root) == untouched
-    summary = import_back(root, culture, scope, changed)
+    summary = exchange(kind, "import", root, culture, scope, changed).decode()
     assert ": 1 changed, 0 new, " in summary, (summary, edited)
-    path = root / culture / "Locs" / f"{scope}.lt"
-    patched = po.with_suffix(".patched")
-    patched.write_bytes(untouched[path])
+    texts = root / culture / "Locs" / f"{scope}.lt"
+    patched = path.with_suffix(".patched")
+    patched.write_bytes(untouched[texts])
     subprocess.run(["patch", "--quiet", "--binary", patched], input=diff, check=True)
-    assert patched.read_bytes() == path.read_bytes()
-    assert {name for name, text in files(root).items() if untouched[name] != text} == {path}
-    export(root, culture, scope, po)
-    after = {context: forms(unit) for context, unit in catalog(po)[1].items()}
-    wanted = {context: forms(unit) for context, unit in before.items()}
+    assert patched.read_bytes() == texts.read_bytes()
+    assert {name for name, text in files(root).items() if untouched[name] != text} == {texts}
+    exchange(kind, "export", root, culture, scope, path)
+    exported = kind(path)
+    after = {name: exported.forms(name) for name in wanted}
     assert after == wanted, [(key, after[key], wanted[key]) for key in after if after[key] != wanted[key]]
 
 
-def compare_rules(root):
+def compare_rules(kind, root):
     """The header's rule is the engine's, for every language."""
     for culture in ("en", "neutral"):
         (root / culture / "Locs").mkdir(parents=True)
     (root / "en" / "Locs" / "main.lt").write_text("A = {$count: '{one}', $count}\n")
     (root / "neutral" / "Locs" / "common.lt").write_text("")
     for culture in LANGUAGES:
-        po, texts = root / f"{culture}.po", root / culture / "Locs" / "main.lt"
-        export(root, culture, "main", po)
-        count = int(re.search(r"nplurals=(\d)", po.read_text()).group(1))
+        path, texts = root / f"{culture}.{kind.EXTENSION}", root / culture / "Locs" / "main.lt"
+        exchange(kind, "export", root, culture, "main", path)
+        count = int(re.search(r"nplurals=(\d)", path.read_text()).group(1))
         texts.parent.mkdir(parents=True, exist_ok=True)
         texts.write_text("A = {$count: " + ", ".join(f"'{form} ' + $count" for form in range(count)) + "}")
-        export(root, culture, "main", po)
-        assert compare_with_engine(root, culture, "main", po, []) == 1, culture
+        exchange(kind, "export", root, culture, "main", path)
+        assert compare_with_engine(kind, root, culture, "main", path, []) == 1, culture
 
 
 def main():
+    kind = {"po": PoFile, "xliff": XliffFile}[sys.argv[3]]
     compared = 0
     with tempfile.TemporaryDirectory() as directory:
         base = pathlib.Path(directory)
-        compare_rules(base / "rules")
+        compare_rules(kind, base / "rules")
         shutil.copytree(SAMPLES, base / "samples")
         roots = [(base / "samples", ["de", "ru", "ar", "ja", "pt"], ["common", "main", "settings"])]
-        for seed in sys.argv[3:]:
+        for seed in SEEDS:
             Generator(seed).tree(base / seed)
             roots.append((base / seed, list(CULTURES)[1:], ["common", "main"]))
         for root, cultures, scopes in roots:
             rng = random.Random(root.name)
             for culture in cultures:
                 for scope in scopes:
-                    po = base / f"{root.name}-{culture}-{scope}.po"
+                    path = base / f"{root.name}-{culture}-{scope}.{kind.EXTENSION}"
                     before = files(root)
-                    export(root, culture, scope, po)
-                    for path in (po, judge(po)):
-                        summary = import_back(root, culture, scope, path)
+                    exchange(kind, "export", root, culture, scope, path)
+                    for file in [path, *kind.judge(path)]:
+                        summary = exchange(kind, "import", root, culture, scope, file).decode()
                         assert ": 0 changed, 0 new, " in summary, summary
                     assert files(root) == before
                     if root.name != "samples":
                         gaps = [0] if culture in RULES else []
                         for _ in range(4 if scope == "main" else 0):
-                            edit_one(root, culture, scope, po, rng)
-                        compared += compare_with_engine(root, culture, scope, po, gaps)
-    assert compared > 40 * (len(sys.argv) - 3), compared
+                            edit_one(kind, root, culture, scope, path, rng)
+                        compared += compare_with_engine(kind, root, culture, scope, path, gaps)
+    assert compared > 40 * len(SEEDS), compared
     print(compared, "texts compared with the engine's")
 
 

@@ -34,12 +34,17 @@ std::size_t Distance(std::string_view left, std::string_view right) {
     return rows[left.size()][right.size()];
 }
 
+bool HasCommands(const CLI::App& app) {
+    return !app.get_subcommands([](const CLI::App*) { return true; }).empty();
+}
+
 /// The library only says that there has to be a command.
-void RequireKnownCommand(CLI::App& app, std::string_view word) {
+void RequireKnownCommand(const CLI::App& app, std::string_view word) {
     constexpr std::size_t kLongest = 64;  // that a person may have meant
     std::string nearest;
     std::size_t least = 0;
-    for (const CLI::App* const command : app.get_subcommands([](CLI::App*) { return true; })) {
+    for (const CLI::App* const command :
+         app.get_subcommands([](const CLI::App*) { return true; })) {
         const std::string& name = command->get_name();
         const std::size_t distance = Distance(word.substr(0, kLongest), name);
         if (nearest.empty() || distance < least) {
@@ -76,8 +81,10 @@ Task ParseCommandLine(const Program& program, int argc, const char* const* argv)
     app.require_subcommand(1);
     app.footer(program.footer);
     program.addCommands(app, chosen);
-    if (argc > 1 && argv[1][0] != '-') {
-        RequireKnownCommand(app, argv[1]);
+    CLI::App* commands = &app;
+    for (int word = 1; word < argc && argv[word][0] != '-' && HasCommands(*commands); ++word) {
+        RequireKnownCommand(*commands, argv[word]);
+        commands = commands->get_subcommand(argv[word]);
     }
     try {
         app.parse(argc, argv);

@@ -11,11 +11,12 @@ namespace {
 
 constexpr std::string_view kCharacterId = "U+";
 
-/// Characters that no XML file may hold, not even by number.
-constexpr std::string_view kControls = std::string_view(
-    "\0\1\2\3\4\5\6\a\b\v\f\x0e\x0f\x10\x11\x12\x13\x14\x15\x16\x17\x18\x19\x1a\x1b"
-    "\x1c\x1d\x1e\x1f",
-    29);
+/// Characters that no XML file may hold, not even by number, and the one that its readers take for
+/// part of a line break.
+constexpr std::string_view kControls(
+    "\0\1\2\3\4\5\6\a\b\v\f\r\x0e\x0f\x10\x11\x12\x13\x14\x15\x16\x17\x18\x19\x1a\x1b\x1c\x1d\x1e"
+    "\x1f",
+    30);
 constexpr std::array<std::string_view, 2> kNoCharacters = {"\xEF\xBF\xBE", "\xEF\xBF\xBF"};
 
 /// The one at the beginning; empty when XML can hold it.

@@ -20,6 +20,7 @@ using lm_exchange::Unit;
 namespace {
 
 constexpr std::size_t kIndent = 2;
+constexpr const char* kFinal = "final";
 
 /// An element whose children each stand on a line of their own. To leave it to the library would put
 /// line breaks into texts that begin with a placeholder.
@@ -150,10 +151,14 @@ private:
         Element element = parent.Add("trans-unit");
         element.Set("id", what.id);
         element.Set("resname", what.name);
+        const std::string state = StateOf(text, unit);
+        if (state == kFinal) {
+            element.Set("approved", "yes");
+        }
         AppendInline(element.AddText("source"), what.source);
         if (texts_.Culture()) {
             pugi::xml_node target = element.AddText("target");
-            target.append_attribute("state").set_value(StateOf(text, unit));
+            target.append_attribute("state").set_value(state.c_str());
             AppendInline(target, what.target);
         }
         for (const std::string& note : what.notes) {
@@ -165,7 +170,7 @@ private:
         if (IsOpen(text, unit)) {
             return kNeedsTranslation;
         }
-        return text.progress == ScopeTexts::Progress::Accepted ? "final" : "translated";
+        return text.progress == ScopeTexts::Progress::Accepted ? kFinal : "translated";
     }
 
     const ScopeTexts& texts_;
