@@ -36,10 +36,6 @@ std::string StreamOf(const std::string& input) {
     return stream;
 }
 
-lm_lsp::EngineAnswer Answer(const lm_lsp::EngineRequest& request) {
-    return {true, request.key, !request.numbers.empty()};
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -50,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::ostringstream out;
     lm_lsp::Inbox inbox;
     std::size_t replies = 0;
-    lm_lsp::Server server({"1", &Answer,
+    lm_lsp::Server server({"1",
                            [&](const Json& message) {
                                replies += message.contains("id") ? 1 : 0;
                                lm_lsp::WriteFrame(out, message);

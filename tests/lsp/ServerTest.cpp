@@ -59,20 +59,12 @@ std::string Brief(const Json& params) {
     return text;
 }
 
-/// Says which texts it was asked for.
-lm_lsp::EngineAnswer EchoEngine(const lm_lsp::EngineRequest& request) {
-    const bool usesNumber = request.numbers.count("count") != 0 &&
-                            request.texts.find(request.key + " = {") != std::string::npos;
-    return {true, request.key + '/' + std::to_string(request.texts.size()), usesNumber};
-}
-
 class Session {
 public:
     using Files = std::vector<std::pair<std::string, std::string>>;
 
     explicit Session(const Files& files)
-        : server_({"1", &EchoEngine, [this](const Json& message) { Note(message); },
-                   [] { return false; }}) {
+        : server_({"1", [this](const Json& message) { Note(message); }, [] { return false; }}) {
         for (const auto& [path, text] : files) {
             tree_.Write(path, text);
         }
@@ -181,7 +173,7 @@ std::string Framed(const std::string& content) {
 std::string Outcome(const std::string& stream) {
     std::istringstream in(stream);
     std::ostringstream out;
-    std::string outcome = lm_lsp::Serve(in, out, "1", &EchoEngine) ? "good" : "bad";
+    std::string outcome = lm_lsp::Serve(in, out, "1") ? "good" : "bad";
     std::istringstream replies(out.str());
     while (const auto content = lm_lsp::ReadFrame(replies)) {
         const Json reply = Json::parse(*content);

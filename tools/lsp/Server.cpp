@@ -124,8 +124,8 @@ void Server::AddFeatures() {
             std::minmax({target.OffsetOf(range.at("start")), target.OffsetOf(range.at("end"))});
         return CodeActionsFor(target, {begin, end}, Find(params, "/context/diagnostics"));
     });
-    OnPlace("textDocument/hover", [this](const Target& target, std::uint32_t offset, const Json&) {
-        return HoverAt(target, offset, host_.ask);
+    OnPlace("textDocument/hover", [](const Target& target, std::uint32_t offset, const Json&) {
+        return HoverAt(target, offset);
     });
     OnPlace("textDocument/completion",
             [this](const Target& target, std::uint32_t offset, const Json&) {

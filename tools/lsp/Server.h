@@ -8,7 +8,6 @@
 
 #include "lsp/Diagnostics.h"
 #include "lsp/Dispatcher.h"
-#include "lsp/Engine.h"
 #include "lsp/Inbox.h"
 #include "lsp/Json.h"
 #include "lsp/Target.h"
@@ -22,7 +21,6 @@ public:
     /// What it is part of.
     struct Host {
         std::string version;
-        AskEngine ask;
         std::function<void(const Json& message)> send;
         std::function<bool()> isAwaited;  // whether a message waits for its turn
     };

@@ -8,12 +8,12 @@
 #include <utility>
 #include <vector>
 
+#include "lsp/Engine.h"
 #include "lsp/Spot.h"
 #include "lsp/key_uses.h"
 #include "lsp/places.h"
 #include "plural/culture_rule.h"
 #include "plural/number_ranges.h"
-#include "tree/path_text.h"
 
 namespace lm_lsp {
 
@@ -47,16 +47,6 @@ std::set<std::uint64_t> SampleNumbers(const lm_tree::Tree& tree, const CultureNa
     return samples.empty() ? std::set<std::uint64_t>{1} : samples;
 }
 
-void AddNumbers(const Document& document, std::set<std::string>& names) {
-    for (const Entry& entry : document.Entries()) {
-        for (const Operand& operand : document.OperandsOf(entry)) {
-            if (operand.kind == OperandKind::PluralForm) {
-                names.emplace(document.Name(operand));
-            }
-        }
-    }
-}
-
 std::string Indented(const std::string& text) {
     std::string indented;
     for (const char unit : text) {
@@ -69,18 +59,16 @@ std::string Indented(const std::string& text) {
 /// The texts of a key in all cultures.
 class FinalTexts {
 public:
-    FinalTexts(const Target& target, const KeyName& key, const AskEngine& ask)
-        : target_(target), snapshot_(*target.InTree()), key_(key), ask_(ask) {}
+    FinalTexts(const Target& target, const KeyName& key)
+        : target_(target), snapshot_(*target.InTree()), key_(key) {}
 
     std::string Describe() {
         for (const CultureName& culture : snapshot_.Cultures()) {
-            auto [file, texts] = TextsOf(culture);
-            Add(culture.name, file, texts);
+            Add(culture.name, HeadOf(culture), TextsOf(culture));
         }
         std::string all = key_.key + '\n';
         for (const auto& [cultures, file, texts] : groups_) {
-            all.append("\n").append(cultures);
-            all.append(file.empty() ? "" : " (" + file + ")").append("\n").append(texts);
+            all.append("\n").append(cultures).append(file).append("\n").append(texts);
         }
         return all;
     }
@@ -97,56 +85,54 @@ private:
         groups_.emplace_back(culture, file, texts);
     }
 
-    std::pair<std::string, std::string> TextsOf(const CultureName& culture) {
-        const lm_tree::Tree& tree = snapshot_.GetTree();
-        const auto own = tree.Answer(culture, target_.TreeFile().scope);
-        const auto common = tree.Answer(culture, lm_tree::CommonScope());
-        const Document* const ownTexts = snapshot_.Get(own);
-        const Document* const commonTexts = snapshot_.Get(common);
-        if (ownTexts == nullptr || commonTexts == nullptr) {
-            return {"", "  no file answers\n"};
-        }
-        for (const FileId file : {*own, *common}) {
-            const Document& document = *snapshot_.Get(file);
-            if (!document.Mistakes().empty()) {
-                const auto place = document.PlaceOf(document.Mistakes().front().range.begin);
-                return {tree.Files()[file].path,
-                        "  has a mistake in line " + std::to_string(place.line) + "\n"};
+    /// The files that a culture's text may come from, as far as there are any: own, then common.
+    std::vector<FileId> FilesOf(const CultureName& culture) const {
+        std::vector<FileId> files;
+        for (const std::string& scope : {target_.TreeFile().scope, lm_tree::CommonScope()}) {
+            if (const auto file = snapshot_.GetTree().Answer(culture, scope)) {
+                files.push_back(*file);
             }
         }
-        const FileId answering = ownTexts->Find(key_.key) != nullptr ? *own : *common;
-        return {tree.Files()[answering].path, AskAll(culture, *own, *common)};
+        return files;
     }
 
-    std::string AskAll(const CultureName& culture, FileId own, FileId common) {
-        const auto textOf = [this](FileId file) {
-            const Document& document = *snapshot_.Get(file);
-            return std::string(document.Bytes(document.Content()));
-        };
-        const lm_tree::Tree& tree = snapshot_.GetTree();
-        const TreePlace& place = snapshot_.Place();
-        EngineRequest request{lm_tree::Utf8Of(place.root),
-                              lm_tree::Utf8Of(place.alternative),
-                              culture.name,
-                              textOf(own),
-                              tree.Files()[own].path,
-                              textOf(common),
-                              tree.Files()[common].path,
-                              key_.key,
-                              snapshot_.GetSettings().params,
-                              {},
-                              ""};
-        AddNumbers(*snapshot_.Get(own), request.numbers);
-        AddNumbers(*snapshot_.Get(common), request.numbers);
-        for (const auto& [name, value] : request.params) {
-            request.numbers.erase(name);
+    /// The file that answers.
+    std::string HeadOf(const CultureName& culture) const {
+        for (const FileId file : FilesOf(culture)) {
+            const Document* const document = snapshot_.Get(file);
+            if (document != nullptr && document->Find(key_.key) != nullptr) {
+                const lm_tree::TreeFile& answering = snapshot_.GetTree().Files()[file];
+                const bool isOther = answering.side == lm_tree::Side::Alternative;
+                return " (" + answering.path + (isOther ? " of the alternative tree)" : ")");
+            }
         }
+        return {};
+    }
+
+    std::string TextsOf(const CultureName& culture) const {
+        // The engine's words on a mistake are many, and the place is marked there.
+        for (const FileId file : FilesOf(culture)) {
+            const Document* const document = snapshot_.Get(file);
+            if (document != nullptr && !document->Mistakes().empty()) {
+                const auto place = document->PlaceOf(document->Mistakes().front().range.begin);
+                return "  " + snapshot_.GetTree().Files()[file].path + " has a mistake in line " +
+                       std::to_string(place.line) + '\n';
+            }
+        }
+        try {
+            Engine engine(snapshot_, culture, target_.TreeFile().scope);
+            return AskAll(engine, SampleNumbers(snapshot_.GetTree(), culture));
+        } catch (const std::exception& error) {
+            return "  " + Indented(error.what()) + '\n';
+        }
+    }
+
+    std::string AskAll(Engine& engine, const std::set<std::uint64_t>& numbers) const {
         std::string texts;
-        for (const std::uint64_t number : SampleNumbers(tree, culture)) {
-            request.number = std::to_string(number);
-            const EngineAnswer answer = ask_(request);
+        for (const std::uint64_t number : numbers) {
+            const Engine::Answer answer = engine.Ask(key_.key, number);
             const std::string head =
-                answer.usesNumber && answer.isText ? request.number + ": " : std::string();
+                answer.usesNumber && answer.isText ? std::to_string(number) + ": " : std::string();
             texts += "  " + head + Indented(answer.text) + '\n';
             if (!answer.usesNumber) {
                 break;
@@ -158,7 +144,6 @@ private:
     const Target& target_;
     const Snapshot& snapshot_;
     const KeyName& key_;
-    const AskEngine& ask_;
     std::vector<std::tuple<std::string, std::string, std::string>> groups_;
 };
 
@@ -214,14 +199,14 @@ std::string FormText(const Target& target, const Spot& spot) {
 
 }  // namespace
 
-Json HoverAt(const Target& target, std::uint32_t offset, const AskEngine& ask) {
+Json HoverAt(const Target& target, std::uint32_t offset) {
     if (target.InTree() == nullptr) {
         return {};
     }
     const Spot spot = SpotAt(target.Document(), offset);
     std::string text;
     if (const auto key = KeyAt(target, offset)) {
-        text = FinalTexts(target, *key, ask).Describe();
+        text = FinalTexts(target, *key).Describe();
     } else if (spot.operand != nullptr && spot.operand->kind != OperandKind::Text) {
         text = UsesOf(target, std::string(target.Document().Name(*spot.operand)));
     }

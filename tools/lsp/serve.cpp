@@ -8,9 +8,9 @@
 
 namespace lm_lsp {
 
-bool Serve(std::istream& in, std::ostream& out, const std::string& version, const AskEngine& ask) {
+bool Serve(std::istream& in, std::ostream& out, const std::string& version) {
     Inbox inbox;
-    Server server({version, ask, [&out](const Json& message) { WriteFrame(out, message); },
+    Server server({version, [&out](const Json& message) { WriteFrame(out, message); },
                    [&inbox] { return inbox.HasMessage(); }});
     // It ends with the stream, or with the message that ends the server.
     std::thread reader([&] { inbox.ReadAll(in); });
