@@ -27,7 +27,7 @@ for command in $commands; do
     options=$(localize "$command" --help | grep -oE '^  (-h,)?--[a-z-]+' | grep -oE -- '--[a-z-]+' | sort)
     differ "completion of $command" "$options" "$(completed localize "$command" --)"
     section=$(sed -n "/^\.SS $command\$/,/^\.S[SH]/p" "$page" | sed 's/\\-/-/g' | grep -v '^\.SS' |
-        grep -v -- '--format json$' | grep -oE -- '--[a-z][a-z-]*' | sort -u)
+        grep -v -- '--format json$' | grep -oE -- '--[a-z][a-z-]*' | sort -u) || [ -z "$section" ]  # some have none
     differ "man page's section $command" "$(grep -vx -- --help <<<"$options")" "$section"
 done
 differ "completion of cultures" "$(printf 'ar\n')" "$(completed localize get --root tree --culture a)"
