@@ -22,7 +22,7 @@ namespace {
 using lm_lsp::Inbox;
 using lm_lsp::Json;
 
-/// Ranges as "2:0-2:4", so that a reply can be read.
+/// Ranges as "2:0-2:4" and diagnostics as "code 2:0-2:4", so that a reply can be read.
 void Shorten(Json& value) {
     if (value.is_structured()) {
         for (Json& part : value) {
@@ -34,6 +34,9 @@ void Shorten(Json& value) {
             return value[end]["line"].dump() + ':' + value[end]["character"].dump();
         };
         value = place("start") + '-' + place("end");
+    }
+    if (value.is_object() && value.contains("code") && value.contains("range")) {
+        value = value["code"].get<std::string>() + ' ' + value["range"].get<std::string>();
     }
 }
 
@@ -50,8 +53,7 @@ std::string Brief(const Json& params) {
         params["uri"].get<std::string>() + ' ' + params.value("version", Json()).dump();
     std::map<std::string, int> counts;
     for (const Json& diagnostic : params["diagnostics"]) {
-        ++counts[diagnostic["code"].get<std::string>() + ' ' +
-                 diagnostic["range"].get<std::string>()];
+        ++counts[diagnostic.get<std::string>()];
     }
     for (const auto& [what, count] : counts) {
         text += ", " + what + (count > 1 ? " x" + std::to_string(count) : "");
@@ -112,9 +114,8 @@ private:
         if (said.contains("result")) {
             text = said["result"].dump();
         } else if (said.contains("error")) {
-            const auto why = said["error"]["message"].get<std::string>();
-            text = "error " + said["error"]["code"].dump() +
-                   (why.compare(0, 1, "[") == 0 ? "" : " " + why);  // the library's own words
+            text = "error " + said["error"]["code"].dump() + ' ' +
+                   said["error"]["message"].get<std::string>();
         } else if (said["params"].contains("diagnostics")) {
             text = Brief(said["params"]);
         } else {

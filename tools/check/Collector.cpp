@@ -107,13 +107,15 @@ Finding* Collector::AddWhole(Rule rule, Side side, const std::string& path,
     return Add(std::move(finding));
 }
 
-void Collector::AddUnused(const Location& location, const std::string& line, std::string message) {
+void Collector::AddUnused(const Location& location, const std::string& line, std::uint32_t caret,
+                          std::string message) {
     if (Wants(Rule::UnusedSuppression)) {
         Finding finding;
         finding.rule = Rule::UnusedSuppression;
         finding.severity = Severity::Warning;
         finding.location = location;
         finding.line = line;
+        finding.caret = caret;
         finding.message = std::move(message);
         Add(std::move(finding));
     }

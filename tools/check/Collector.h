@@ -46,7 +46,9 @@ public:
                       std::string_view key = {});
 
     /// A suppression that is of no use.
-    void AddUnused(const Location& location, const std::string& line, std::string message);
+    /// @param caret  where in the line it stands, in bytes.
+    void AddUnused(const Location& location, const std::string& line, std::uint32_t caret,
+                   std::string message);
 
     /// Takes over what another one found.
     void Merge(Collector&& other);

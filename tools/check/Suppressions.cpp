@@ -19,7 +19,7 @@ constexpr std::string_view kBlanks = " \t";
 std::string_view WithoutBlanks(std::string_view text) {
     const std::size_t begin = text.find_first_not_of(kBlanks);
     if (begin == std::string_view::npos) {
-        return {};
+        return text.substr(0, 0);  // still a part of it
     }
     return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
 }
@@ -36,13 +36,13 @@ std::optional<std::string_view> ListOf(std::string_view comment) {
                : std::nullopt;
 }
 
-/// The names of the list, which ends with the first name that no comma follows.
-std::vector<std::string> NamesOf(std::string_view list) {
-    std::vector<std::string> names;
+/// The names of the list, which ends with the first name that no comma follows; views of it.
+std::vector<std::string_view> NamesOf(std::string_view list) {
+    std::vector<std::string_view> names;
     for (bool goesOn = true; goesOn;) {
         list = WithoutBlanks(list);
         const std::size_t end = std::min(list.find_first_of(", \t"), list.size());
-        names.emplace_back(list.substr(0, end));
+        names.push_back(list.substr(0, end));
         list = WithoutBlanks(list.substr(end));
         goesOn = !list.empty() && list.front() == ',';
         list.remove_prefix(goesOn ? 1 : 0);
@@ -103,19 +103,17 @@ void Suppressions::Add(const TextFile& file, Range comment, Range about, bool is
         return;
     }
     Comment added;
-    added.location = SourceView{file.file, document.Bytes(), document.Lines()}.At(comment);
+    const SourceView view{file.file, document.Bytes(), document.Lines()};
+    added.location = view.At(comment);
     added.about = isAboutFile ? Range() : about;
     added.isAboutFile = isAboutFile;
     added.isJudged = isJudged;
     added.line = document.Bytes(comment);
-    for (const std::string& name : NamesOf(*list)) {
-        if (const auto rule = RuleOfName(name)) {
-            added.rules.push_back(*rule);
-        } else {
-            added.unknown.push_back(name);
-        }
+    for (const std::string_view name : NamesOf(*list)) {
+        const auto begin = static_cast<std::uint32_t>(name.data() - document.Bytes().data());
+        const Range range = {begin, begin + static_cast<std::uint32_t>(name.size())};
+        added.names.push_back({std::string(name), RuleOfName(name), view.At(range)});
     }
-    added.isUsed.assign(added.rules.size(), false);
     comments_.push_back(std::move(added));
 }
 
@@ -144,9 +142,9 @@ public:
         while (comment != byPlace_.begin() &&
                IsAbout(*std::prev(comment), finding.location, isOfFile)) {
             --comment;
-            for (std::size_t i = 0; i < comment->second->rules.size(); ++i) {
-                if (comment->second->rules[i] == finding.rule) {
-                    comment->second->isUsed[i] = true;
+            for (Name& name : comment->second->names) {
+                if (name.rule == finding.rule) {
+                    name.isUsed = true;
                     matches = true;
                 }
             }
@@ -180,25 +178,25 @@ std::size_t Suppressions::Apply(std::vector<Finding>& findings, Collector& unuse
     const auto removed = static_cast<std::size_t>(findings.end() - kept);
     findings.erase(kept, findings.end());
     for (const Comment& comment : comments_) {
-        std::string names;
-        for (const std::string& name : comment.unknown) {
-            names += (names.empty() ? "no rule is called '" : ", '") + name + "'";
-        }
-        for (std::size_t i = 0; i < comment.rules.size(); ++i) {
-            if (!comment.isUsed[i] && comment.isJudged && options.IsOn(comment.rules[i])) {
-                names += (names.empty() ? "" : "; ") + std::string("nothing to ignore of ") +
-                         InfoOf(comment.rules[i]).name;
-            }
-        }
-        if (!names.empty()) {
-            unused.AddUnused(comment.location, comment.line,
-                             names +
-                                 ": remove it from the comment, which stands directly above "
-                                 "or after its entry, or above all of them with an empty "
-                                 "line below");
-        }
+        AddUnused(comment, options, unused);
     }
     return removed;
+}
+
+void Suppressions::AddUnused(const Comment& comment, const CheckOptions& options,
+                             Collector& unused) {
+    for (const Name& name : comment.names) {
+        if (name.rule && (name.isUsed || !comment.isJudged || !options.IsOn(*name.rule))) {
+            continue;
+        }
+        unused.AddUnused(name.location, comment.line,
+                         name.location.range.begin - comment.location.range.begin,
+                         (name.rule ? "nothing to ignore of " + name.text
+                                    : "no rule is called '" + name.text + "'") +
+                             ": remove it from the comment, which stands directly above "
+                             "or after its entry, or above all of them with an empty "
+                             "line below");
+    }
 }
 
 }  // namespace lm_check

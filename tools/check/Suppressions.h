@@ -1,6 +1,7 @@
 // Comments in sources that ask to ignore findings.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,14 +15,18 @@ namespace lm_check {
 /// above all entries, with an empty line below it, about what concerns the file as a whole.
 class Suppressions {
 public:
+    struct Name {
+        std::string text;
+        std::optional<Rule> rule;  // empty when no rule is called so
+        Location location;
+        bool isUsed = false;
+    };
     struct Comment {
         Location location;
         Range about;  // of the entry; empty for the whole file
         bool isAboutFile = false;
-        std::vector<Rule> rules;
-        std::vector<bool> isUsed;          // of each rule
-        std::vector<std::string> unknown;  // names that no rule has
-        bool isJudged = false;             // whether the file was judged completely
+        std::vector<Name> names;
+        bool isJudged = false;  // whether the file was judged completely
         std::string line;
     };
 
@@ -39,6 +44,7 @@ public:
 private:
     class Index;
 
+    static void AddUnused(const Comment& comment, const CheckOptions& options, Collector& unused);
     void Add(const TextFile& file, Range comment, Range about, bool isAboutFile, bool isJudged);
 
     std::vector<Comment> comments_;

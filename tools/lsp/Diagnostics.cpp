@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "check/check.h"
+#include "lsp/findings.h"
 #include "lsp/places.h"
 
 namespace lm_lsp {
@@ -16,39 +17,10 @@ namespace {
 constexpr milliseconds kPause{200};  // in the typing, before a tree is judged
 constexpr milliseconds kCheap{40};   // a tree that is judged faster is judged at once
 
-/// More than anybody reads; a new file of a large tree lacks all of its keys.
-constexpr std::size_t kMostOfFile = 500;
-
 /// Thrown through a check that somebody waits behind.
 struct Interrupted {};
 
-fs::path PathOf(const Snapshot& snapshot, const lm_check::Location& location) {
-    return snapshot.GetTree().FullPath(location.side, location.path).lexically_normal();
-}
-
-lm_check::TranslationLock LockOf(const Snapshot& snapshot) {
-    return lm_check::TranslationLock(snapshot.LockText());
-}
-
 }  // namespace
-
-lm_check::Report JudgeFile(const Snapshot& snapshot, lm_tree::FileId file) {
-    const lm_tree::TreeFile& found = snapshot.GetTree().Files()[file];
-    lm_check::CheckOptions options = snapshot.GetSettings().check;
-    for (const lm_tree::CultureName& culture : snapshot.CulturesOf(file)) {
-        options.cultures.push_back(culture.name);
-    }
-    options.scopes = {found.scope};
-    lm_check::Report report = Check(snapshot.GetTree(), options, LockOf(snapshot));
-    std::vector<lm_check::Finding> own;
-    for (lm_check::Finding& finding : report.findings) {
-        if (finding.location.side == found.side && finding.location.path == found.path) {
-            own.push_back(std::move(finding));
-        }
-    }
-    report.findings = std::move(own);
-    return report;
-}
 
 Diagnostics::Diagnostics(const Workspace& workspace, Surroundings surroundings)
     : workspace_(workspace), surroundings_(std::move(surroundings)) {}
@@ -180,7 +152,7 @@ Diagnostics::ByFile Diagnostics::FindingsOf(const Snapshot& snapshot,
         Json& list =
             findings.try_emplace(PathOf(snapshot, finding.location), Json::array()).first->second;
         if (list.size() < kMostOfFile) {
-            list.push_back(DiagnosticOf(snapshot, finding));
+            list.push_back(DiagnosticOf(workspace_, snapshot, finding));
         } else if (list.size() == kMostOfFile) {
             Json rest = list.front();
             rest.erase("relatedInformation");
@@ -191,25 +163,6 @@ Diagnostics::ByFile Diagnostics::FindingsOf(const Snapshot& snapshot,
         }
     }
     return findings;
-}
-
-Json Diagnostics::DiagnosticOf(const Snapshot& snapshot, const lm_check::Finding& finding) const {
-    const auto rangeOf = [](const lm_check::Location& location) {
-        return RangeOf(location.begin, location.end);
-    };
-    Json diagnostic = {{"range", rangeOf(finding.location)},
-                       {"severity", finding.severity == lm_check::Severity::Error ? 1 : 2},
-                       {"code", lm_check::InfoOf(finding.rule).name},
-                       {"source", "localize"},
-                       {"message", finding.message}};
-    for (const lm_check::Related& related : finding.related) {
-        diagnostic["relatedInformation"].push_back(
-            {{"location",
-              {{"uri", workspace_.UriOf(PathOf(snapshot, related.location))},
-               {"range", rangeOf(related.location)}}},
-             {"message", related.message}});
-    }
-    return diagnostic;
 }
 
 }  // namespace lm_lsp

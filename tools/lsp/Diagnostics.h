@@ -46,7 +46,6 @@ private:
     void JudgeTree(const TreePlace& tree);
     void Publish(const std::filesystem::path& path, const Json& findings);
     ByFile FindingsOf(const Snapshot& snapshot, const lm_check::Report& report) const;
-    Json DiagnosticOf(const Snapshot& snapshot, const lm_check::Finding& finding) const;
 
     const Workspace& workspace_;
     Surroundings surroundings_;
@@ -56,8 +55,5 @@ private:
     std::map<TreePlace, ByFile> told_;
     std::map<TreePlace, std::chrono::milliseconds> costs_;  // of judging trees
 };
-
-/// What is wrong with one file and what it answers; the tree is not judged as a whole.
-lm_check::Report JudgeFile(const Snapshot& snapshot, lm_tree::FileId file);
 
 }  // namespace lm_lsp

@@ -16,8 +16,6 @@ auto Guarded(Run run) {
         return run();
     } catch (const RequestError&) {
         throw;
-    } catch (const Json::exception& error) {
-        throw RequestError(ErrorCode::InvalidParams, error.what());
     } catch (const std::bad_alloc&) {
         throw RequestError(ErrorCode::InternalError, "out of memory");
     } catch (const std::exception& error) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "lsp/frames.h"
+#include "lsp/members.h"
 
 namespace lm_lsp {
 
@@ -11,20 +12,13 @@ namespace {
 
 constexpr std::size_t kMost = 1000;
 
-/// A member of an object; null when it is none, or has no such member.
-const Json& At(const Json& value, const char* name) {
-    static const Json none;
-    const auto found = value.is_object() ? value.find(name) : value.end();
-    return value.is_object() && found != value.end() ? *found : none;
-}
-
 bool IsMethod(const Json& message, const char* name) {
-    const Json& method = At(message, "method");
+    const Json& method = Find(message, "method");
     return method.is_string() && method.get_ref<const std::string&>() == name;
 }
 
 const Json& UriOf(const Json& message) {
-    return At(At(At(message, "params"), "textDocument"), "uri");
+    return Find(message, "params.textDocument.uri");
 }
 
 }  // namespace
@@ -67,9 +61,9 @@ void Inbox::RefuseNeedless(const Json& message) {
     if (!isCancel && !isChange) {
         return;
     }
-    const Json& what = isCancel ? At(At(message, "params"), "id") : UriOf(message);
+    const Json& what = isCancel ? Find(message, "params.id") : UriOf(message);
     for (Message& waiting : messages_) {
-        const Json& id = At(waiting.content, "id");
+        const Json& id = Find(waiting.content, "id");
         const bool isConcerned =
             !id.is_null() && !what.is_null() && (isCancel ? id : UriOf(waiting.content)) == what;
         if (isConcerned && !waiting.refusal) {

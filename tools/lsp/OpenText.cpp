@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "lsp/RequestError.h"
+#include "lsp/members.h"
 #include "lsp/places.h"
 
 namespace lm_lsp {
@@ -35,14 +36,13 @@ void OpenText::Change(const Json& changes, std::optional<std::int64_t> version) 
     std::string bytes = bytes_;
     lm_source::LineTable lines = lines_;
     for (const Json& change : changes) {
-        const auto& text = change.at("text").get_ref<const std::string&>();
-        const auto range = change.find("range");
-        if (range == change.end()) {
+        const std::string& text = StringAt(change, "text");
+        if (!change.contains("range")) {
             bytes = text;
         } else {
             const auto [begin, end] =
-                std::minmax({lines.OffsetOf(bytes, ReadPlace(range->at("start"))),
-                             lines.OffsetOf(bytes, ReadPlace(range->at("end")))});
+                std::minmax({lines.OffsetOf(bytes, ReadPlace(change, "range.start")),
+                             lines.OffsetOf(bytes, ReadPlace(change, "range.end"))});
             bytes.replace(begin, end - begin, text);
         }
         lines = LinesOf(bytes);
@@ -53,10 +53,8 @@ void OpenText::Change(const Json& changes, std::optional<std::int64_t> version) 
 }
 
 std::optional<std::int64_t> VersionOf(const Json& document) {
-    const auto version = document.find("version");
-    return version != document.end() && version->is_number_integer()
-               ? std::optional(version->get<std::int64_t>())
-               : std::nullopt;
+    const Json& version = Find(document, "version");
+    return version.is_number_integer() ? std::optional(version.get<std::int64_t>()) : std::nullopt;
 }
 
 }  // namespace lm_lsp

@@ -1,6 +1,5 @@
 #include "lsp/Server.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -10,6 +9,7 @@
 #include "lsp/completion.h"
 #include "lsp/hover.h"
 #include "lsp/key_uses.h"
+#include "lsp/members.h"
 #include "lsp/outline.h"
 #include "lsp/places.h"
 #include "lsp/uri.h"
@@ -35,16 +35,9 @@ Json Capabilities() {
 
 /// Where relative paths begin.
 std::filesystem::path FolderOf(const Json& params) {
-    const auto uri = params.find("rootUri");
-    const auto path = uri != params.end() && uri->is_string()
-                          ? PathOfUri(uri->get_ref<const std::string&>())
-                          : std::nullopt;
+    const Json& uri = Find(params, "rootUri");
+    const auto path = uri.is_string() ? PathOfUri(uri.get_ref<const std::string&>()) : std::nullopt;
     return path.value_or(std::filesystem::path());
-}
-
-/// The member at the end of a path of names, or null.
-Json Find(const Json& value, const char* pointer) {
-    return value.value(Json::json_pointer(pointer), Json());
 }
 
 }  // namespace
@@ -69,11 +62,9 @@ void Server::AddLifecycle() {
 }
 
 Json Server::Initialize(const Json& params) {
-    const auto options = params.find("initializationOptions");
-    workspace_ =
-        Workspace(ReadSettings(options != params.end() ? *options : Json(), FolderOf(params)));
+    workspace_ = Workspace(ReadSettings(params, FolderOf(params)));
     takesSnippets_ =
-        Find(params, "/capabilities/textDocument/completion/completionItem/snippetSupport") == true;
+        Find(params, "capabilities.textDocument.completion.completionItem.snippetSupport") == true;
     diagnostics_.TouchTrees();
     state_ = State::Running;
     return {{"capabilities", Capabilities()},
@@ -82,27 +73,26 @@ Json Server::Initialize(const Json& params) {
 
 void Server::AddTexts() {
     dispatcher_.OnNotification("textDocument/didOpen", [this](const Json& params) {
-        const Json& document = params.at("textDocument");
-        const auto uri = document.at("uri").get<std::string>();
-        workspace_.Open(uri, {document.at("text").get<std::string>(), VersionOf(document)});
+        const std::string& uri = StringAt(params, "textDocument.uri");
+        workspace_.Open(
+            uri, {StringAt(params, "textDocument.text"), VersionOf(Find(params, "textDocument"))});
         if (const auto path = PathOfUri(uri)) {
             diagnostics_.Touch(*path);
         }
     });
     dispatcher_.OnNotification("textDocument/didChange", [this](const Json& params) {
-        const Json& document = params.at("textDocument");
-        const auto uri = document.at("uri").get<std::string>();
+        const std::string& uri = StringAt(params, "textDocument.uri");
         OpenText* const text = workspace_.Find(uri);
         if (text == nullptr) {
             throw RequestError(ErrorCode::InvalidParams, "not open: " + uri);
         }
-        text->Change(params.at("contentChanges"), VersionOf(document));
+        text->Change(ArrayAt(params, "contentChanges"), VersionOf(Find(params, "textDocument")));
         if (const auto path = PathOfUri(uri)) {
             diagnostics_.Touch(*path);
         }
     });
     dispatcher_.OnNotification("textDocument/didClose", [this](const Json& params) {
-        workspace_.Close(params.at("textDocument").at("uri").get<std::string>());
+        workspace_.Close(StringAt(params, "textDocument.uri"));
         diagnostics_.TouchTrees();
     });
     for (const char* const method : {"textDocument/didSave", "workspace/didChangeWatchedFiles"}) {
@@ -119,10 +109,8 @@ void Server::AddFeatures() {
         return EditsBetween(target.Document().Bytes(), lm_edit::Format(target.Document()));
     });
     OnText("textDocument/codeAction", [](const Target& target, const Json& params) {
-        const Json& range = params.at("range");
-        const auto [begin, end] =
-            std::minmax({target.OffsetOf(range.at("start")), target.OffsetOf(range.at("end"))});
-        return CodeActionsFor(target, {begin, end}, Find(params, "/context/diagnostics"));
+        return CodeActionsFor(target, target.RangeOf(params, "range"),
+                              Find(params, "context.diagnostics"));
     });
     OnPlace("textDocument/hover", [](const Target& target, std::uint32_t offset, const Json&) {
         return HoverAt(target, offset);
@@ -136,7 +124,7 @@ void Server::AddFeatures() {
     });
     OnPlace("textDocument/references", [](const Target& target, std::uint32_t offset,
                                           const Json& params) {
-        return ReferencesAt(target, offset, Find(params, "/context/includeDeclaration") == true);
+        return ReferencesAt(target, offset, Find(params, "context.includeDeclaration") == true);
     });
     OnPlace("textDocument/prepareRename",
             [](const Target& target, std::uint32_t offset, const Json&) {
@@ -144,10 +132,10 @@ void Server::AddFeatures() {
             });
     OnPlace("textDocument/rename",
             [](const Target& target, std::uint32_t offset, const Json& params) {
-                return RenameAt(target, offset, params.at("newName").get<std::string>());
+                return RenameAt(target, offset, StringAt(params, "newName"));
             });
     dispatcher_.OnRequest("workspace/symbol", [this](const Json& params) {
-        return WorkspaceSymbols(workspace_, params.at("query").get<std::string>());
+        return WorkspaceSymbols(workspace_, StringAt(params, "query"));
     });
 }
 

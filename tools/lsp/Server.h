@@ -54,11 +54,12 @@ private:
     void Refuse(const Json& id, const RequestError& error);
     void Notify(const char* method, Json params);
 
-    /// A request about a text.
+    /// A request about a text. Of a plural rule there is nothing to answer.
     template <class Handler>
     void OnText(const char* method, Handler answer) {
         dispatcher_.OnRequest(method, [this, answer](const Json& params) -> Json {
-            return answer(Target(workspace_, params), params);
+            const Target target(workspace_, params);
+            return target.HasTexts() ? answer(target, params) : Json();
         });
     }
 
@@ -66,7 +67,7 @@ private:
     template <class Handler>
     void OnPlace(const char* method, Handler answer) {
         OnText(method, [answer](const Target& target, const Json& params) -> Json {
-            return answer(target, target.OffsetOf(params.at("position")), params);
+            return answer(target, target.OffsetOf(params, "position"), params);
         });
     }
 

@@ -1,6 +1,7 @@
 #include "lsp/Settings.h"
 
 #include "lsp/RequestError.h"
+#include "lsp/members.h"
 #include "tree/path_text.h"
 
 namespace lm_lsp {
@@ -10,7 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path ReadPath(const Json& options, const char* name, const fs::path& folder) {
-    const std::string text = options.value(name, std::string());
+    const std::string text = StringOr(options, name, "");
     if (text.empty()) {
         return {};
     }
@@ -20,11 +21,15 @@ fs::path ReadPath(const Json& options, const char* name, const fs::path& folder)
 }
 
 void Switch(lm_check::CheckOptions& check, const Json& options, const char* name, bool isOn) {
-    for (const Json& rule : options.value(name, Json::array())) {
-        const auto known = lm_check::RuleOfName(rule.get<std::string>());
+    if (Find(options, name).is_null()) {
+        return;
+    }
+    for (const Json& rule : ArrayAt(options, name)) {
+        const auto known =
+            rule.is_string() ? lm_check::RuleOfName(rule.get<std::string>()) : std::nullopt;
         if (!known) {
-            throw RequestError(ErrorCode::InvalidParams, std::string(name) + ": unknown rule '" +
-                                                             rule.get<std::string>() + "'");
+            throw RequestError(ErrorCode::InvalidParams, "'" + std::string(name) + "' has " +
+                                                             rule.dump() + ", which is no rule");
         }
         check.switches[*known] = isOn;
     }
@@ -32,20 +37,30 @@ void Switch(lm_check::CheckOptions& check, const Json& options, const char* name
 
 }  // namespace
 
-Settings ReadSettings(const Json& options, const fs::path& folder) {
+Settings ReadSettings(const Json& initialize, const fs::path& folder) {
+    constexpr const char* kOptions = "initializationOptions";
     Settings settings;
-    if (options.is_null()) {
+    if (Find(initialize, kOptions).is_null()) {
         return settings;
     }
+    const Json& options = ObjectAt(initialize, kOptions);
     settings.root = ReadPath(options, "root", folder);
     settings.alternative = ReadPath(options, "alternative", folder);
     if (settings.root.empty() && !settings.alternative.empty()) {
-        throw RequestError(ErrorCode::InvalidParams, "alternative needs root");
+        throw RequestError(ErrorCode::InvalidParams,
+                           "'alternative' is of use with 'root' only: give both");
     }
-    settings.check.reference = options.value("reference", std::string());
-    settings.params = options.value("params", std::map<std::string, std::string>());
-    for (const auto& [name, value] : settings.params) {
-        settings.check.params.insert(name);
+    settings.check.reference = StringOr(options, "reference", "");
+    if (!Find(options, "params").is_null()) {
+        for (const auto& param : ObjectAt(options, "params").items()) {
+            if (!param.value().is_string()) {
+                throw RequestError(ErrorCode::InvalidParams,
+                                   "'params' has " + param.value().dump() + " for '" + param.key() +
+                                       "': it must be a string");
+            }
+            settings.params[param.key()] = param.value();
+            settings.check.params.insert(param.key());
+        }
     }
     Switch(settings.check, options, "enable", true);
     Switch(settings.check, options, "disable", false);

@@ -19,8 +19,9 @@ struct Settings {
 };
 
 /// Reads `initializationOptions`: root, alternative, reference, params, enable, disable.
-/// @param folder  that relative paths begin at; may be empty.
+/// @param initialize  the parameters that hold them, if there are any.
+/// @param folder      that relative paths begin at; may be empty.
 /// @throws RequestError for what is not understood.
-Settings ReadSettings(const Json& options, const std::filesystem::path& folder);
+Settings ReadSettings(const Json& initialize, const std::filesystem::path& folder);
 
 }  // namespace lm_lsp

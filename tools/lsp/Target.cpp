@@ -1,21 +1,25 @@
 #include "lsp/Target.h"
 
+#include <algorithm>
+
 #include "lsp/RequestError.h"
+#include "lsp/members.h"
 #include "lsp/places.h"
 #include "lsp/uri.h"
 
 namespace lm_lsp {
 
 Target::Target(const Workspace& workspace, const Json& params)
-    : workspace_(workspace), uri_(params.at("textDocument").at("uri").get<std::string>()) {
+    : workspace_(workspace), uri_(StringAt(params, "textDocument.uri")) {
     const auto path = PathOfUri(uri_);
     if (const auto tree = path ? workspace.TreeOf(*path) : std::nullopt) {
         snapshot_.emplace(workspace.Look(*tree));
         if (const auto file = snapshot_->FileAt(*path)) {
             file_ = *file;
-            if (TreeFile().kind == lm_tree::FileKind::Texts) {
-                document_ = snapshot_->Get(file);
+            if (TreeFile().kind != lm_tree::FileKind::Texts) {
+                return;
             }
+            document_ = snapshot_->Get(file);
         } else {
             snapshot_.reset();
         }
@@ -30,8 +34,14 @@ Target::Target(const Workspace& workspace, const Json& params)
     }
 }
 
-std::uint32_t Target::OffsetOf(const Json& position) const {
-    return document_->Lines().OffsetOf(document_->Bytes(), ReadPlace(position));
+std::uint32_t Target::OffsetOf(const Json& value, const std::string& path) const {
+    return document_->Lines().OffsetOf(document_->Bytes(), ReadPlace(value, path));
+}
+
+lm_source::Range Target::RangeOf(const Json& value, const std::string& path) const {
+    const auto [begin, end] =
+        std::minmax({OffsetOf(value, path + ".start"), OffsetOf(value, path + ".end")});
+    return {begin, end};
 }
 
 }  // namespace lm_lsp

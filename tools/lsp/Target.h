@@ -15,8 +15,11 @@ namespace lm_lsp {
 class Target {
 public:
     /// @param params  with a `textDocument`.
-    /// @throws RequestError for a file that is not open and of no tree, or holds no texts.
+    /// @throws RequestError for a file that is not open and of no tree, or cannot be read.
     Target(const Workspace& workspace, const Json& params);
+
+    /// False for a plural rule, which has nothing else either.
+    bool HasTexts() const noexcept { return document_ != nullptr; }
 
     const lm_source::Document& Document() const noexcept { return *document_; }
 
@@ -27,8 +30,11 @@ public:
     lm_tree::FileId File() const noexcept { return file_; }
     const lm_tree::TreeFile& TreeFile() const { return snapshot_->GetTree().Files()[file_]; }
 
-    /// The offset of a `position`.
-    std::uint32_t OffsetOf(const Json& position) const;
+    /// The offset of the position at the end of a path of members.
+    std::uint32_t OffsetOf(const Json& value, const std::string& path) const;
+
+    /// The range there, whatever the order of its ends.
+    lm_source::Range RangeOf(const Json& value, const std::string& path) const;
 
     const Workspace& GetWorkspace() const noexcept { return workspace_; }
 

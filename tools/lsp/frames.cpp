@@ -129,8 +129,12 @@ Json ParseContent(const std::string& content) {
     }
     try {
         return Json::parse(content);
-    } catch (const Json::exception& error) {
-        throw RequestError(ErrorCode::ParseError, error.what());
+    } catch (const Json::parse_error& error) {
+        throw RequestError(
+            ErrorCode::ParseError,
+            "the message is no JSON in UTF-8: wrong at byte " + std::to_string(error.byte));
+    } catch (const Json::out_of_range&) {
+        throw RequestError(ErrorCode::ParseError, "the message has a number that is too large");
     }
 }
 

@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "lsp/RequestError.h"
+#include "lsp/members.h"
 
 namespace lm_lsp {
 
@@ -15,15 +15,10 @@ using lm_source::Range;
 
 namespace {
 
-std::uint32_t ReadNumber(const Json& position, const char* name) {
-    constexpr std::uint32_t kMost = std::numeric_limits<std::uint32_t>::max() - 1;
-    const auto found = position.find(name);
-    if (found == position.end() || !found->is_number_unsigned()) {
-        throw RequestError(ErrorCode::InvalidParams,
-                           std::string("a position has no number '") + name + "'");
-    }
-    return static_cast<std::uint32_t>(std::min<std::uint64_t>(found->get<std::uint64_t>(), kMost)) +
-           1;
+/// Lines and columns of people begin at 1.
+std::uint32_t ReadNumber(const Json& value, const std::string& path) {
+    constexpr std::uint64_t kMost = std::numeric_limits<std::uint32_t>::max() - 1;
+    return static_cast<std::uint32_t>(std::min(NumberAt(value, path), kMost)) + 1;
 }
 
 LineTable LinesOf(std::string_view text) {
@@ -39,11 +34,8 @@ Range WholeLine(const LineTable& lines, std::string_view text, std::uint32_t lin
 
 }  // namespace
 
-Place ReadPlace(const Json& position) {
-    if (!position.is_object()) {
-        throw RequestError(ErrorCode::InvalidParams, "a position is no object");
-    }
-    return {ReadNumber(position, "line"), ReadNumber(position, "character")};
+Place ReadPlace(const Json& value, const std::string& path) {
+    return {ReadNumber(value, path + ".line"), ReadNumber(value, path + ".character")};
 }
 
 Json PositionOf(Place place) {

@@ -10,8 +10,9 @@
 
 namespace lm_lsp {
 
-/// @throws RequestError for what is no position. One out of the text is a matter of `OffsetOf`.
-lm_source::Place ReadPlace(const Json& position);
+/// The position at the end of a path of members.
+/// @throws RequestError for what is none. One out of the text is a matter of `OffsetOf`.
+lm_source::Place ReadPlace(const Json& value, const std::string& path);
 
 Json PositionOf(lm_source::Place place);
 Json RangeOf(lm_source::Place begin, lm_source::Place end);
