@@ -51,9 +51,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                replies += message.contains("id") ? 1 : 0;
                                lm_lsp::WriteFrame(out, message);
                            },
-                           [] { return false; }});
+                           [] { return false; }, [] { return std::nullopt; }});
     inbox.ReadAll(in);
-    while (const auto message = inbox.Take(std::nullopt)) {
+    while (const auto* const message = inbox.Take(std::nullopt)) {
         const std::size_t before = replies;
         server.Handle(*message);
         const bool isRequest = message->content.is_object() && message->content.contains("id") &&

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <map>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -66,15 +67,17 @@ public:
     using Files = std::vector<std::pair<std::string, std::string>>;
 
     explicit Session(const Files& files)
-        : server_({"1", [this](const Json& message) { Note(message); }, [] { return false; }}) {
+        : server_({"1", [this](const Json& message) { Note(message); }, [] { return false; },
+                   [this] { return refusal_; }}) {
         for (const auto& [path, text] : files) {
             tree_.Write(path, text);
         }
         uri_ = lm_lsp::UriOf(tree_.Root());
     }
 
-    /// @param line  "METHOD PARAMS" for a request, "METHOD! PARAMS" for a notification; FILE@LINE:COLUMN
-    ///              among the parameters stands for a place.
+    /// @param line  "METHOD PARAMS" for a request, "METHOD! PARAMS" for a notification, "METHOD? PARAMS" for a
+    ///              request that is cancelled while it runs; FILE@LINE:COLUMN among the parameters stands
+    ///              for a place.
     std::string Run(std::string line) {
         heard_.clear();
         Replace(line, "TREE", uri_);
@@ -93,13 +96,20 @@ public:
             params["range"] = {{"start", params["position"]}, {"end", params["position"]}};
             params.erase("at");
         }
-        if (method.back() == '!') {
+        const bool isNotification = method.back() == '!';
+        const bool isCancelled = method.back() == '?';
+        if (isNotification || isCancelled) {
             method.pop_back();
-        } else {
+        }
+        if (!isNotification) {
             message["id"] = 1;
         }
         message["method"] = method;
+        if (isCancelled) {
+            refusal_.emplace(lm_lsp::ErrorCode::RequestCancelled, "cancelled");
+        }
         server_.Handle({message, {}});
+        refusal_.reset();
         while (server_.Delay()) {
             server_.Work();
         }
@@ -129,6 +139,7 @@ private:
     lm_test::TempTree tree_;
     std::string uri_;
     std::string heard_;
+    std::optional<lm_lsp::RequestError> refusal_;
     lm_lsp::Server server_;
 };
 
@@ -237,13 +248,36 @@ TEST(ServerTest, NeedlessRequestsAreRefusedBeforeTheirTurn) {
     Inbox inbox;
     inbox.ReadAll(in);
     std::string refusals;
-    while (const auto message = inbox.Take(std::nullopt)) {
+    while (const auto* const message = inbox.Take(std::nullopt)) {
         refusals += message->refusal
                         ? std::to_string(static_cast<int>(message->refusal->Code())) + ' '
                         : "none ";
     }
     EXPECT_EQ(refusals, "-32801 none -32800 none none ");
     EXPECT_TRUE(inbox.IsAtEnd());
+}
+
+TEST(ServerTest, TheRequestThatIsBeingAnsweredCanBecomeNeedless) {
+    const auto request = [](int id, const char* method) {
+        return Json{{"id", id},
+                    {"method", method},
+                    {"params", {{"id", 1}, {"textDocument", {{"uri", "a"}}}}}};
+    };
+    for (const auto& [method, expected] :
+         std::vector<std::pair<const char*, int>>{{"$/cancelRequest", -32800},
+                                                  {"textDocument/didChange", -32801},
+                                                  {"textDocument/didOpen", 0}}) {
+        Inbox inbox;
+        inbox.Add({request(1, "textDocument/references"), {}});
+        inbox.Add({request(2, "shutdown"), {}});
+        ASSERT_NE(inbox.Take(std::nullopt), nullptr);
+        EXPECT_FALSE(inbox.Refusal());
+        inbox.Add({request(3, method), {}});
+        const auto refusal = inbox.Refusal();
+        EXPECT_EQ(refusal ? static_cast<int>(refusal->Code()) : 0, expected) << method;
+        EXPECT_EQ(inbox.Take(std::nullopt)->refusal.has_value(), expected == -32801);
+        EXPECT_FALSE(inbox.Refusal()) << "the next one is wanted";
+    }
 }
 
 TEST(ServerTest, PathsAndUrisLeadToEachOther) {

@@ -50,7 +50,7 @@ void Inbox::Add(Message message) {
     if (IsMethod(message.content, "$/cancelRequest")) {
         return;
     }
-    taken_.wait(guard, [this] { return messages_.size() < kMost; });
+    hasRoom_.wait(guard, [this] { return messages_.size() < kMost; });
     messages_.push_back(std::move(message));
     added_.notify_one();
 }
@@ -62,15 +62,21 @@ void Inbox::RefuseNeedless(const Json& message) {
         return;
     }
     const Json& what = isCancel ? Find(message, "params.id") : UriOf(message);
-    for (Message& waiting : messages_) {
-        const Json& id = Find(waiting.content, "id");
+    const auto refuse = [&](const Json& request, std::optional<RequestError>& refusal) {
+        const Json& id = Find(request, "id");
         const bool isConcerned =
-            !id.is_null() && !what.is_null() && (isCancel ? id : UriOf(waiting.content)) == what;
-        if (isConcerned && !waiting.refusal) {
-            waiting.refusal =
-                isCancel ? RequestError(ErrorCode::RequestCancelled, "cancelled")
-                         : RequestError(ErrorCode::ContentModified, "the text has changed since");
+            !id.is_null() && !what.is_null() && (isCancel ? id : UriOf(request)) == what;
+        if (isConcerned && !refusal) {
+            refusal = isCancel
+                          ? RequestError(ErrorCode::RequestCancelled, "cancelled")
+                          : RequestError(ErrorCode::ContentModified, "the text has changed since");
         }
+    };
+    if (taken_) {
+        refuse(taken_->content, refusal_);
+    }
+    for (Message& waiting : messages_) {
+        refuse(waiting.content, waiting.refusal);
     }
 }
 
@@ -80,8 +86,10 @@ void Inbox::Close() {
     added_.notify_one();
 }
 
-std::optional<Inbox::Message> Inbox::Take(std::optional<std::chrono::milliseconds> most) {
+const Inbox::Message* Inbox::Take(std::optional<std::chrono::milliseconds> most) {
     std::unique_lock<std::mutex> guard(mutex_);
+    taken_.reset();
+    refusal_.reset();
     const auto isReady = [this] { return !messages_.empty() || isClosed_; };
     if (most) {
         added_.wait_for(guard, *most, isReady);
@@ -89,12 +97,17 @@ std::optional<Inbox::Message> Inbox::Take(std::optional<std::chrono::millisecond
         added_.wait(guard, isReady);
     }
     if (messages_.empty()) {
-        return std::nullopt;
+        return nullptr;
     }
-    Message message = std::move(messages_.front());
+    taken_ = std::move(messages_.front());
     messages_.pop_front();
-    taken_.notify_one();
-    return message;
+    hasRoom_.notify_one();
+    return &*taken_;
+}
+
+std::optional<RequestError> Inbox::Refusal() const {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    return refusal_;
 }
 
 bool Inbox::HasMessage() const {

@@ -36,8 +36,11 @@ public:
 
     /// Waits for a message.
     /// @param most  how long; empty for as long as it takes.
-    /// @return empty when there was none.
-    std::optional<Message> Take(std::optional<std::chrono::milliseconds> most);
+    /// @return the message, until the next one is asked for; null when there was none.
+    const Message* Take(std::optional<std::chrono::milliseconds> most);
+
+    /// Why the message that was taken last has become needless since; empty while it has not.
+    std::optional<RequestError> Refusal() const;
 
     bool HasMessage() const;
 
@@ -49,8 +52,10 @@ private:
 
     mutable std::mutex mutex_;
     std::condition_variable added_;
-    std::condition_variable taken_;
+    std::condition_variable hasRoom_;
     std::deque<Message> messages_;
+    std::optional<Message> taken_;
+    std::optional<RequestError> refusal_;
     bool isClosed_ = false;
 };
 

@@ -62,7 +62,11 @@ void Server::AddLifecycle() {
 }
 
 Json Server::Initialize(const Json& params) {
-    workspace_ = Workspace(ReadSettings(params, FolderOf(params)));
+    workspace_ = Workspace(ReadSettings(params, FolderOf(params)), [this] {
+        if (const auto refusal = host_.refusal()) {
+            throw RequestError(*refusal);
+        }
+    });
     takesSnippets_ =
         Find(params, "capabilities.textDocument.completion.completionItem.snippetSupport") == true;
     diagnostics_.TouchTrees();

@@ -10,6 +10,7 @@
 #include "lsp/Dispatcher.h"
 #include "lsp/Inbox.h"
 #include "lsp/Json.h"
+#include "lsp/RequestError.h"
 #include "lsp/Target.h"
 #include "lsp/Workspace.h"
 
@@ -23,6 +24,9 @@ public:
         std::string version;
         std::function<void(const Json& message)> send;
         std::function<bool()> isAwaited;  // whether a message waits for its turn
+
+        /// Why nobody wants the answer to the message that is being handled; empty while somebody does.
+        std::function<std::optional<RequestError>()> refusal;
     };
 
     explicit Server(Host host);

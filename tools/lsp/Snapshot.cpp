@@ -15,10 +15,12 @@ namespace fs = std::filesystem;
 using lm_tree::CultureName;
 using lm_tree::FileId;
 
-Snapshot::Snapshot(TreePlace place, const Settings& settings, lm_tree::Overlay overlay)
+Snapshot::Snapshot(TreePlace place, const Settings& settings, lm_tree::Overlay overlay,
+                   Checkpoint checkpoint)
     : place_(std::move(place)),
       settings_(settings),
       overlay_(std::move(overlay)),
+      checkpoint_(std::move(checkpoint)),
       tree_(place_.root, place_.alternative, overlay_),
       reference_(lm_tree::ChooseReference(tree_, settings.check.reference)) {
     for (const CultureName& culture : tree_.Cultures()) {
@@ -90,6 +92,7 @@ const lm_source::Document* Snapshot::Get(std::optional<FileId> file) const {
     }
     const auto [known, isNew] = documents_.try_emplace(*file);
     if (isNew) {
+        Pass();
         try {
             known->second = std::make_unique<lm_source::Document>(tree_.Read(*file));
         } catch (const std::exception&) {

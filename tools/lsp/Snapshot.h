@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -24,13 +25,16 @@ struct TreePlace {
     bool operator<(const TreePlace& other) const { return root < other.root; }
 };
 
+using Checkpoint = std::function<void()>;
+
 /// Made for one request. Each file is read once.
 class Snapshot {
 public:
     /// @param settings  must outlive this.
     /// @throws std::runtime_error when the tree cannot be read, std::invalid_argument for a reference
     ///         that there is not.
-    Snapshot(TreePlace place, const Settings& settings, lm_tree::Overlay overlay);
+    Snapshot(TreePlace place, const Settings& settings, lm_tree::Overlay overlay,
+             Checkpoint checkpoint);
 
     const lm_tree::Tree& GetTree() const noexcept { return tree_; }
     const Settings& GetSettings() const noexcept { return settings_; }
@@ -56,7 +60,15 @@ public:
     std::vector<lm_tree::FileId> CommonOf(lm_tree::FileId file) const;
 
     /// @return null for no file, and for one that cannot be read.
+    /// @throws what the checkpoint does.
     const lm_source::Document* Get(std::optional<lm_tree::FileId> file) const;
+
+    /// Ends the request if nobody waits for it any more. Long work calls it between files.
+    void Pass() const {
+        if (checkpoint_) {
+            checkpoint_();
+        }
+    }
 
     /// What translations were made from, and its file.
     std::filesystem::path LockPath() const;
@@ -66,6 +78,7 @@ private:
     TreePlace place_;
     const Settings& settings_;
     lm_tree::Overlay overlay_;
+    Checkpoint checkpoint_;
     lm_tree::Tree tree_;
     lm_tree::CultureName reference_;
     std::vector<lm_tree::CultureName> cultures_;

@@ -39,7 +39,8 @@ fs::path RootAbove(const fs::path& path) {
 
 }  // namespace
 
-Workspace::Workspace(Settings settings) : settings_(std::move(settings)) {
+Workspace::Workspace(Settings settings, Checkpoint checkpoint)
+    : settings_(std::move(settings)), checkpoint_(std::move(checkpoint)) {
     if (!settings_.root.empty()) {
         trees_.insert({settings_.root, settings_.alternative});
     }
@@ -100,7 +101,7 @@ Snapshot Workspace::Look(const TreePlace& tree) const {
             overlay.insert_or_assign(*path, text.Bytes());
         }
     }
-    return {tree, settings_, std::move(overlay)};
+    return {tree, settings_, std::move(overlay), checkpoint_};
 }
 
 }  // namespace lm_lsp

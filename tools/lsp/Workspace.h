@@ -17,7 +17,8 @@ namespace lm_lsp {
 
 class Workspace {
 public:
-    explicit Workspace(Settings settings = {});
+    /// @param checkpoint  called before each file of a tree is read; may throw what ends the request.
+    explicit Workspace(Settings settings = {}, Checkpoint checkpoint = {});
 
     const Settings& GetSettings() const noexcept { return settings_; }
 
@@ -42,6 +43,7 @@ public:
 
 private:
     Settings settings_;
+    Checkpoint checkpoint_;
     std::map<std::string, OpenText, std::less<>> texts_;  // by their URIs
     std::set<TreePlace> trees_;
 };

@@ -18,6 +18,7 @@ lm_check::CheckOptions OptionsFor(const Snapshot& snapshot, lm_tree::FileId file
         options.cultures.push_back(culture.name);
     }
     options.scopes = {snapshot.GetTree().Files()[file].scope};
+    options.progress = [&snapshot](std::size_t, std::size_t) { snapshot.Pass(); };
     return options;
 }
 

@@ -17,7 +17,7 @@ inline constexpr std::size_t kMostOfFile = 500;
 
 lm_check::TranslationLock LockOf(const Snapshot& snapshot);
 
-/// The options of the settings for one file and what it answers.
+/// The options of the settings for one file and what it answers; hold no longer than the snapshot.
 lm_check::CheckOptions OptionsFor(const Snapshot& snapshot, lm_tree::FileId file);
 
 /// What is wrong with one file and what it answers; the tree is not judged as a whole.
