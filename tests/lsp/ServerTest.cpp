@@ -1,6 +1,7 @@
 // What the language server answers, from the sessions beside this file, and what it survives.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -13,8 +14,10 @@
 
 #include "TempTree.h"
 #include "lsp/Inbox.h"
+#include "lsp/OpenText.h"
 #include "lsp/Server.h"
 #include "lsp/frames.h"
+#include "lsp/places.h"
 #include "lsp/serve.h"
 #include "lsp/uri.h"
 
@@ -277,6 +280,24 @@ TEST(ServerTest, TheRequestThatIsBeingAnsweredCanBecomeNeedless) {
         EXPECT_EQ(refusal ? static_cast<int>(refusal->Code()) : 0, expected) << method;
         EXPECT_EQ(inbox.Take(std::nullopt)->refusal.has_value(), expected == -32801);
         EXPECT_FALSE(inbox.Refusal()) << "the next one is wanted";
+    }
+}
+
+TEST(ServerTest, EditsMakeOneTextOfAnother) {
+    const std::vector<std::string> texts = {"",        "a",    "a\n",     "a\na\n",
+                                            "a\na\na", "b\na", "a\nb\na", "a\r\nb\r\n"};
+    for (const std::string& before : texts) {
+        for (const std::string& after : texts) {
+            Json changes = lm_lsp::EditsBetween(before, after);
+            for (Json& change : changes) {
+                change["text"] = change["newText"];
+            }
+            std::reverse(changes.begin(),
+                         changes.end());  // their ranges are those of the text before
+            lm_lsp::OpenText text(before, std::nullopt);
+            text.Change(changes, std::nullopt);
+            EXPECT_EQ(text.Bytes(), after) << "made of " << before;
+        }
     }
 }
 
