@@ -50,9 +50,9 @@ class Server:
         fields = pathlib.Path("/proc/%d/stat" % self.process.pid).read_text().rsplit(")", 1)[1].split()
         return (int(fields[11]) + int(fields[12])) * 1000 / os.sysconf("SC_CLK_TCK")
 
-    def memory(self):
+    def memory(self):  # in KiB
         status = pathlib.Path("/proc/%d/status" % self.process.pid).read_text()
-        return int(status.split("VmRSS:")[1].split()[0]) // 1024
+        return int(status.split("VmRSS:")[1].split()[0])
 
 
 def main():
@@ -85,7 +85,7 @@ def main():
                 sys.exit("the text was to stay right")
             times.append((time.perf_counter() - before) * 1000)
             if version in (1, 100) or version % max(keystrokes // 5, 1) == 0:
-                print("%d keystrokes: %d MiB" % (version, server.memory()))
+                print("%d keystrokes: %d MiB" % (version, server.memory() // 1024))
         times.sort()
         print("%d messages: median %.0f ms, 95 %% within %.0f ms; %.0f ms of processors each" %
               (messages, statistics.median(times), times[len(times) * 95 // 100],
