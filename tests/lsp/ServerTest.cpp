@@ -221,6 +221,8 @@ TEST(ServerTest, BadStreamsEndWell) {
         {session(Framed(R"({"id":1,"method":"textDocument/hover","params":[]})")),
          "good ok -32602 ok"},
         {session(Framed(R"({"id":1,"result":{}})")), "good ok ok"},
+        {session(Framed(R"({"id":1,"method":"\")" + std::string(100, '[') + "\"}")),
+         "good ok -32601 ok"},
         {session("content-length:2\r\nContent-Type: x\r\n\r\n{}"), "good ok ok"},
         {initialize + "Content-Length: 10\r\n\r\n{}", "bad ok -32700"},
         {initialize + "Content-Length: -1\r\n\r\n" + end, "bad ok -32700"},

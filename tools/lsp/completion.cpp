@@ -281,9 +281,7 @@ private:
         for (const Entry& entry : reference->Entries()) {
             const std::string_view key = reference->Key(entry);
             const auto isIn = [key](const Document* texts) { return texts->Find(key) != nullptr; };
-            const Entry* const own = document_.Find(key);
-            // What is being typed may be the start of another entry.
-            if ((own != nullptr && own->key.end != offset_) || entry.isFaulty ||
+            if (document_.Find(key) != nullptr || entry.isFaulty ||
                 std::any_of(common.begin(), common.end(), isIn)) {
                 continue;
             }
