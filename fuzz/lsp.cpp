@@ -1,6 +1,6 @@
 // Fuzzes the language server: a stream as it comes, or, when it begins with a line break, lines that each
 // are the content of a message. "TREE" in a line stands for the sample tree. Whatever comes, each request is
-// answered once, in messages that can be read.
+// answered once, in messages that can be read, and errors are in own words.
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -49,6 +49,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     lm_lsp::Server server({"1",
                            [&](const Json& message) {
                                replies += message.contains("id") ? 1 : 0;
+                               Require(message.dump(-1, ' ', true, Json::error_handler_t::replace)
+                                               .find("[json.exception") == std::string::npos,
+                                       "errors are in own words");
                                lm_lsp::WriteFrame(out, message);
                            },
                            [] { return false; }, [] { return std::nullopt; }});
