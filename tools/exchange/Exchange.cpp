@@ -87,6 +87,15 @@ std::set<std::string> NamesIn(const Texts& texts) {
     return names;
 }
 
+std::vector<Phrase> ReadForms(const Texts& texts, const Names& names) {
+    std::vector<Phrase> phrases;
+    phrases.reserve(texts.size());
+    for (const std::string& text : texts) {
+        phrases.push_back(ReadFlat(text, names));
+    }
+    return phrases;
+}
+
 }  // namespace
 
 Exchange::Exchange(Message reference, std::optional<Message> own, FormCounts counts)
@@ -96,18 +105,6 @@ Exchange::Exchange(Message reference, std::optional<Message> own, FormCounts cou
     if (own_ && !isWhole) {
         own_ = NumberedLike(*own_, reference_);
     }
-    for (const Message* const message : {&reference_, own_ ? &*own_ : nullptr}) {
-        if (message == nullptr) {
-            continue;
-        }
-        names_.Add(message->phrase);
-        for (const auto& numbered : message->plurals) {
-            names_.AddParameter(numbered.second.parameter);
-            for (const Phrase& form : numbered.second.forms) {
-                names_.Add(form);
-            }
-        }
-    }
     if (isWhole) {
         AddWhole();
     } else {
@@ -115,14 +112,30 @@ Exchange::Exchange(Message reference, std::optional<Message> own, FormCounts cou
     }
 }
 
+Names Exchange::NamesOf() const {
+    Names names;
+    for (const Message* const message : {&reference_, own_ ? &*own_ : nullptr}) {
+        if (message == nullptr) {
+            continue;
+        }
+        names.Add(message->phrase);
+        for (const auto& numbered : message->plurals) {
+            names.AddParameter(numbered.second.parameter);
+            for (const Phrase& form : numbered.second.forms) {
+                names.Add(form);
+            }
+        }
+    }
+    return names;
+}
+
 void Exchange::AddWhole() {
     Unit unit;
     unit.isPlural = reference_.IsPlural() || (own_ && own_->IsPlural());
-    const Texts reference = WholeTexts(reference_);
-    unit.reference = reference;
+    unit.reference = WholeTexts(reference_);
     if (unit.isPlural) {
-        unit.reference = {reference[std::min(counts_.referenceOne, reference.size() - 1)],
-                          reference.back()};
+        const std::size_t one = std::min(counts_.referenceOne, unit.reference.size() - 1);
+        unit.reference = {unit.reference[one], unit.reference.back()};
     }
     if (own_) {
         unit.own = WholeTexts(*own_);
@@ -172,15 +185,6 @@ std::vector<std::string> Exchange::Filled(std::vector<std::string> forms) {
 const Plural& Exchange::PluralOf(const std::string& number) const {
     const bool isOwn = own_ && own_->plurals.count(number) != 0;
     return isOwn ? own_->plurals.at(number) : reference_.plurals.at(number);
-}
-
-std::vector<Phrase> Exchange::Read(const std::vector<std::string>& texts) const {
-    std::vector<Phrase> phrases;
-    phrases.reserve(texts.size());
-    for (const std::string& text : texts) {
-        phrases.push_back(ReadFlat(text, names_));
-    }
-    return phrases;
 }
 
 /// A name that the translation does without already may stay away, and one that it has may stay.
@@ -250,10 +254,10 @@ const std::string& Exchange::ParameterOf(const Unit& unit) const {
 }
 
 /// One text with a plural form around all of it, but for what stood around it before.
-Message Exchange::WithForms(const std::vector<std::string>& forms) const {
+Message Exchange::WithForms(const Texts& forms, const Names& names) const {
     const bool wasPlural = own_ ? own_->IsPlural() : reference_.IsPlural();
     if (!wasPlural && AreEqual(forms)) {
-        return {ReadFlat(forms.front(), names_), {}};
+        return {ReadFlat(forms.front(), names), {}};
     }
     Texts texts = forms;
     Frame frame;
@@ -261,14 +265,15 @@ Message Exchange::WithForms(const std::vector<std::string>& forms) const {
         frame = FrameOf(*own_);
     }
     Message message;
-    Append(message.phrase, ReadFlat(frame.head, names_));
+    Append(message.phrase, ReadFlat(frame.head, names));
     Append(message.phrase, Part{Part::Kind::Plural, "1"});
-    Append(message.phrase, ReadFlat(frame.tail, names_));
-    message.plurals["1"] = {ParameterOf(units_.front()), Read(texts)};
+    Append(message.phrase, ReadFlat(frame.tail, names));
+    message.plurals["1"] = {ParameterOf(units_.front()), ReadForms(texts, names)};
     return message;
 }
 
 std::string Exchange::ValueWith(const std::vector<std::vector<std::string>>& translations) const {
+    const Names names = NamesOf();
     Message message;
     for (std::size_t i = 0; i < units_.size(); ++i) {
         const Unit& unit = units_[i];
@@ -278,12 +283,13 @@ std::string Exchange::ValueWith(const std::vector<std::vector<std::string>>& tra
         }
         if (!unit.number.empty()) {
             if (!texts.empty()) {
-                message.plurals[unit.number] = {PluralOf(unit.number).parameter, Read(texts)};
+                message.plurals[unit.number] = {PluralOf(unit.number).parameter,
+                                                ReadForms(texts, names)};
             }
         } else if (unit.isPlural) {
-            message = WithForms(texts);
+            message = WithForms(texts, names);
         } else {
-            message.phrase = ReadFlat(texts.front(), names_);
+            message.phrase = ReadFlat(texts.front(), names);
         }
     }
     return ValueOf(message);

@@ -56,14 +56,13 @@ private:
     void RequireNames(const Unit& unit, const std::vector<std::string>& translation) const;
     void RequireNamesInForms(const Unit& unit, const std::vector<std::string>& forms) const;
     const std::string& ParameterOf(const Unit& unit) const;
-    Message WithForms(const std::vector<std::string>& forms) const;
+    Message WithForms(const std::vector<std::string>& forms, const Names& names) const;
+    Names NamesOf() const;
     const Plural& PluralOf(const std::string& number) const;
-    std::vector<Phrase> Read(const std::vector<std::string>& texts) const;
 
     Message reference_;
     std::optional<Message> own_;
     FormCounts counts_;
-    Names names_;
     bool hasOtherFormCount_ = false;
     std::vector<Unit> units_;
 };

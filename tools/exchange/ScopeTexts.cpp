@@ -103,6 +103,7 @@ void ScopeTexts::AddTexts(const Document& reference, std::size_t referenceOne,
     for (std::size_t form = 0; rule_ && form < rule_->FormCount(); ++form) {
         counts.severalNumbers.push_back(rule_->UseOf(form) == lm_plural::Use::Several);
     }
+    texts_.reserve(reference.Entries().size());
     for (std::size_t number = 0; number < reference.Entries().size(); ++number) {
         const Entry& entry = reference.Entries()[number];
         std::vector<std::string> comments;

@@ -1,11 +1,11 @@
 #include "exchange/import_file.h"
 
 #include <algorithm>
-#include <map>
 #include <optional>
-#include <set>
 #include <stdexcept>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "exchange/languages.h"
@@ -91,6 +91,7 @@ private:
 
     void TakeUnits() {
         const std::string start = texts_.Scope() + '|';
+        units_.reserve(file_.units.size());
         for (const TranslatedUnit& unit : file_.units) {
             if (unit.state == State::Obsolete) {
                 ++import_.counts.obsolete;
@@ -160,12 +161,15 @@ private:
             return;
         }
         const TranslatedUnit& last = file_.units.back();
+        const bool isFurtherLine = file_.end == TranslatedFile::End::FurtherLine;
+        if (!isFurtherLine && !last.targets.back().empty()) {
+            return;
+        }
         for (const ScopeTexts::Text& text : texts_.Texts()) {
             for (const Unit& unit : text.exchange.Units()) {
                 if (UnitId(texts_, text, unit) == last.id &&
                     BreaksOff(last.targets.back(), unit.own.empty() ? "" : unit.own.back(),
-                              unit.reference.back(),
-                              file_.end == TranslatedFile::End::FurtherLine)) {
+                              unit.reference.back(), isFurtherLine)) {
                     throw std::runtime_error("it is not whole: its last text, '" + last.id +
                                              "', breaks off (to shorten it so, change it in the "
                                              "tree)");
@@ -182,7 +186,7 @@ private:
         }
         const TranslatedUnit& brought = *found->second;
         units_.erase(found);
-        const bool isSame = brought.targets == TargetsOf(texts_, unit) && !unit.own.empty();
+        const bool isSame = brought.targets == unit.own;
         // Tools that know no states leave ours, even where they change texts.
         const bool isOpen = brought.state == State::Open && (isSame || !IsOpen(text, unit));
         if (brought.sources != format_.SourcesOf(unit, texts_)) {
@@ -226,8 +230,8 @@ private:
     const TranslatedFile& file_;
     const Format& format_;
     const ScopeTexts& texts_;
-    std::map<std::string_view, const TranslatedUnit*> units_;
-    std::set<std::string_view> obsolete_;
+    std::unordered_map<std::string_view, const TranslatedUnit*> units_;
+    std::unordered_set<std::string_view> obsolete_;
     Import import_;
 };
 

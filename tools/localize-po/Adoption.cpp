@@ -46,14 +46,14 @@ Adoption::Identity Adoption::IdentityOf(const CatalogEntry& entry) {
 }
 
 void Adoption::Add(const Catalog& catalog) {
-    for (CatalogEntry& entry : catalog.Entries()) {
+    for (const CatalogEntry& entry : catalog.Entries()) {
         if (entry.isObsolete) {
             continue;
         }
         const auto [known, isNew] = known_.emplace(IdentityOf(entry), messages_.size());
         if (isNew) {
             std::string key = keys_.Make(entry.context.value_or(""), entry.id);
-            messages_.push_back({std::move(entry), std::move(key)});
+            messages_.push_back({entry, std::move(key)});
             continue;
         }
         CatalogEntry& before = messages_[known->second].entry;
@@ -111,12 +111,11 @@ Adoption::File Adoption::Reference(const lm_plural::PluralRule& rule) const {
 
 Adoption::File Adoption::Translation(const Catalog& catalog, const std::vector<std::size_t>& forms,
                                      std::size_t one) const {
-    std::map<std::size_t, CatalogEntry> translations;
-    for (CatalogEntry& entry : catalog.Entries()) {
+    std::map<std::size_t, const CatalogEntry*> translations;
+    for (const CatalogEntry& entry : catalog.Entries()) {
         // As gettext does: the first form tells whether there is a translation.
         if (!entry.isObsolete && !entry.isFuzzy && !entry.translations.front().empty()) {
-            const std::size_t message = known_.at(IdentityOf(entry));
-            translations.emplace(message, std::move(entry));
+            translations.emplace(known_.at(IdentityOf(entry)), &entry);
         }
     }
     File file;
@@ -130,9 +129,9 @@ Adoption::File Adoption::Translation(const Catalog& catalog, const std::vector<s
             continue;
         }
         ++file.translated;
-        const std::vector<std::string>& brought = found->second.translations;
+        const std::vector<std::string>& brought = found->second->translations;
         std::vector<std::string> texts = brought;
-        if (found->second.pluralId) {
+        if (found->second->pluralId) {
             texts.clear();
             for (const std::size_t form : forms) {
                 if (form >= brought.size()) {

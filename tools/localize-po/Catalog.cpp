@@ -238,7 +238,18 @@ std::string ComplaintOf(po_message_t message, po_message_iterator_t place) {
 
 }  // namespace
 
-Catalog::Catalog(po_file* file) : file_(file) {}
+std::vector<CatalogEntry> Catalog::EntriesOf(po_file* file) {
+    std::vector<CatalogEntry> entries;
+    const Place messages(po_message_iterator(file, nullptr));
+    while (po_message_t message = po_next_message(messages.get())) {
+        const bool isHeader =
+            po_message_msgctxt(message) == nullptr && *po_message_msgid(message) == '\0';
+        if (!isHeader) {
+            entries.push_back(EntryOf(message));
+        }
+    }
+    return entries;
+}
 
 Catalog::Catalog(const std::string& header)
     : file_(po_file_create()), end_(po_message_iterator(file_.get(), nullptr)) {
@@ -252,14 +263,18 @@ Catalog Catalog::Read(const std::string& path, const std::string& bytes) {
     RequireText(path, bytes);
     const TemporaryFile file(bytes);  // the library reads files alone
     const Complaints complaints(path);
-    Catalog catalog(po_file_read(file.Path().c_str(), Complaints::Handler()));
-    if (!catalog.file_) {
+    const std::unique_ptr<po_file, Close> read(
+        po_file_read(file.Path().c_str(), Complaints::Handler()));
+    if (!read) {
         throw std::runtime_error("cannot read '" + path +
                                  "': " + std::generic_category().message(errno));
     }
     if (!complaints.All().empty()) {
         throw std::runtime_error(complaints.All().front());
     }
+    Catalog catalog;
+    catalog.header_ = TextOf(po_file_domain_header(read.get(), nullptr));
+    catalog.entries_ = EntriesOf(read.get());
     catalog.endsWithLine_ = !bytes.empty() && bytes.back() == '\n';
     catalog.endsWithPiece_ = IsPiece(LastLine(bytes));
     const std::string type = catalog.HeaderField("Content-Type");
@@ -280,24 +295,10 @@ Catalog Catalog::Read(const std::string& path, const std::string& bytes) {
 }
 
 std::string Catalog::HeaderField(const char* name) const {
-    const char* const header = po_file_domain_header(file_.get(), nullptr);
-    char* const field = header != nullptr ? po_header_field(header, name) : nullptr;
+    char* const field = po_header_field(header_.c_str(), name);
     std::string text = TextOf(field);
     std::free(field);
     return text;
-}
-
-std::vector<CatalogEntry> Catalog::Entries() const {
-    std::vector<CatalogEntry> entries;
-    const Place messages(po_message_iterator(file_.get(), nullptr));
-    while (po_message_t message = po_next_message(messages.get())) {
-        const bool isHeader =
-            po_message_msgctxt(message) == nullptr && TextOf(po_message_msgid(message)).empty();
-        if (!isHeader) {
-            entries.push_back(EntryOf(message));
-        }
-    }
-    return entries;
 }
 
 void Catalog::Add(const CatalogEntry& entry) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "CatalogEntry.h"
@@ -29,11 +30,12 @@ public:
     /// Whether the last line is a further piece of a text that began above.
     bool EndsWithPiece() const noexcept { return endsWithPiece_; }
 
-    /// A field of the header; empty when it is not there.
+    /// A field of the header that was read; empty when it is not there.
     std::string HeaderField(const char* name) const;
 
-    /// All but the header.
-    std::vector<CatalogEntry> Entries() const;
+    /// What was read, but for the header.
+    const std::vector<CatalogEntry>& Entries() const noexcept { return entries_; }
+    std::vector<CatalogEntry> TakeEntries() && { return std::move(entries_); }
 
     /// Adds a message at the end. Its texts are Python's brace format, which has names in braces, as
     /// ours do. Where `msgfmt -c` would refuse the translation, it is made fuzzy, with the reason as a
@@ -51,12 +53,15 @@ private:
 
     using Place = std::unique_ptr<std::remove_pointer_t<po_message_iterator_t>, Close>;
 
-    explicit Catalog(po_file* file);
+    Catalog() = default;
+    static std::vector<CatalogEntry> EntriesOf(po_file* file);
 
-    std::unique_ptr<po_file, Close> file_;
+    std::string header_;
+    std::vector<CatalogEntry> entries_;
     bool endsWithLine_ = true;
     bool endsWithPiece_ = false;
-    Place end_;  // behind what was added
+    std::unique_ptr<po_file, Close> file_;  // what is to be written
+    Place end_;                             // behind what was added
 };
 
 }  // namespace localize_po

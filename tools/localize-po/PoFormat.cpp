@@ -84,14 +84,16 @@ std::string PoFormat::Write(const ScopeTexts& texts) const {
 }
 
 TranslatedFile PoFormat::Read(const std::string& path, const std::string& bytes) const {
-    const Catalog catalog = Catalog::Read(path, bytes);
+    Catalog catalog = Catalog::Read(path, bytes);
     TranslatedFile file;
     file.language = catalog.HeaderField("Language");
     file.pluralForms = catalog.HeaderField("Plural-Forms");
     file.end = !catalog.EndsWithLine()   ? TranslatedFile::End::PartOfLine
                : catalog.EndsWithPiece() ? TranslatedFile::End::FurtherLine
                                          : TranslatedFile::End::Line;
-    for (CatalogEntry& entry : catalog.Entries()) {
+    std::vector<CatalogEntry> entries = std::move(catalog).TakeEntries();
+    file.units.reserve(entries.size());
+    for (CatalogEntry& entry : entries) {
         file.units.push_back(UnitOf(std::move(entry)));
     }
     return file;

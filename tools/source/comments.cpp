@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <string_view>
 
 #include "source/Scanner.h"
 
@@ -35,7 +36,13 @@ std::uint32_t EndBefore(const Document& document, std::size_t entry) {
 
 std::vector<Comment> CommentsBetween(const Document& document, std::size_t entry) {
     std::vector<Comment> comments;
-    AddComments(document, EndBefore(document, entry), comments);
+    const std::uint32_t begin = EndBefore(document, entry);
+    const std::uint32_t end = entry < document.Entries().size()
+                                  ? document.Entries()[entry].key.begin
+                                  : document.Content().end;
+    if (document.Bytes({begin, end}).find(';') != std::string_view::npos) {  // seldom
+        AddComments(document, begin, comments);
+    }
     return comments;
 }
 
