@@ -23,11 +23,13 @@ RULES = {
     "tr": "nplurals=1; plural=0;",
     "ro": "nplurals=3; plural=n==1 ? 0 : (n==0 || (n%100 > 0 && n%100 < 20)) ? 1 : 2;",
     "ru": "nplurals=4; plural=n==1 ? 3 : n%10==1 && n%100!=11 ? 0 : !(n%10<2 || n%10>4) && (n%100<10 || 20<=n%100) ? 1 : 2;",
+    "es_MX": "nplurals=2; plural=n != 1;",  # which has the rule file of "es"
+    "es": "nplurals=3; plural=n==1 ? 0 : n==2 ? 1 : 2;",
     "pt_BR": "nplurals=2; plural=(n > 1);",
     "zh_TW": "nplurals=1; plural=0;",
     "sr@latin": "nplurals=3; plural=(n%10==1 && n%100!=11 ? 0 : n%10>=2 && n%10<=4 && (n%100<10 || n%100>=20) ? 1 : 2);",
 }
-DIRECTORIES = {"pt_BR": "pt-br", "zh_TW": "zh-Hant", "sr@latin": "sr-Latn"}
+DIRECTORIES = {"es_MX": "es-mx", "pt_BR": "pt-br", "zh_TW": "zh-Hant", "sr@latin": "sr-Latn"}
 NUMBERS = [0, 1, 2, 3, 4, 5, 7, 10, 11, 12, 20, 21, 22, 50, 100, 101, 102, 111, 1000000, 1000001]
 WORDS = ["file", "_Open", "Größe", "100%%", "'", "{x}", "\\\\", "\\n", "$p1", '\\"', "\\t", "a=b;", "文"]
 

@@ -64,14 +64,8 @@ std::string KeyMaker::Make(std::string_view context, std::string_view text) {
         context.remove_prefix(std::min(end + 1, context.size()));
     }
     key += Words(TextAlone(text));
-    std::string unique = key;
-    for (std::size_t& count = taken_[lm_tree::LowerAscii(key)]; ++count > 1;) {
-        unique = key + '_' + std::to_string(count);
-        if (taken_.emplace(lm_tree::LowerAscii(unique), 1).second) {
-            break;
-        }
-    }
-    return unique;
+    const std::size_t count = ++taken_[lm_tree::LowerAscii(key)];
+    return count == 1 ? key : key + '_' + std::to_string(count);  // no other key has a "_"
 }
 
 }  // namespace localize_po

@@ -19,8 +19,10 @@ using lm_exchange::Unit;
 namespace {
 
 std::string HeaderOf(const ScopeTexts& texts) {
+    // Editors fill in what is empty; without it `msgfmt -c` would warn.
     return "Project-Id-Version: " + texts.Scope() +
-           "\nLanguage: " + (texts.Culture() ? LanguageOf(*texts.Culture()) : std::string()) +
+           "\nPO-Revision-Date: \nLast-Translator: \nLanguage-Team: \nLanguage: " +
+           (texts.Culture() ? LanguageOf(*texts.Culture()) : std::string()) +
            "\nMIME-Version: 1.0\nContent-Type: text/plain; charset=UTF-8\n"
            "Content-Transfer-Encoding: 8bit\nPlural-Forms: " +
            (texts.Rule() ? PluralFormsOf(*texts.Rule()) : "nplurals=INTEGER; plural=EXPRESSION;") +
