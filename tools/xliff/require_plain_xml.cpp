@@ -127,13 +127,14 @@ void RequirePlainXml(std::string_view name, std::string_view bytes) {
         throw std::runtime_error("'" + std::string(name) + "' is not UTF-8: save it as UTF-8");
     }
     Scan scan(name, bytes);
-    const auto control = std::find_if(bytes.begin(), bytes.end(), [](char unit) {
+    const auto isControl = [](char unit) {
         return static_cast<unsigned char>(unit) < 0x20 && unit != '\t' && unit != '\n' &&
                unit != '\r';
-    });
-    if (control != bytes.end()) {
-        scan.Fail(static_cast<std::size_t>(control - bytes.begin()),
-                  "has a control character, which XML files cannot hold");
+    };
+    const auto control = static_cast<std::size_t>(
+        std::find_if(bytes.begin(), bytes.end(), isControl) - bytes.begin());
+    if (control != bytes.size()) {
+        scan.Fail(control, "has a control character, which XML files cannot hold");
     }
     scan.Run();
 }
