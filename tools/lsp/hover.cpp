@@ -19,7 +19,6 @@ namespace lm_lsp {
 
 using lm_source::Document;
 using lm_source::Entry;
-using lm_source::Operand;
 using lm_source::OperandKind;
 using lm_tree::CultureName;
 using lm_tree::FileId;

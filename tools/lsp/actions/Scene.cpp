@@ -10,39 +10,34 @@ namespace lm_lsp {
 using lm_check::Finding;
 using lm_source::Range;
 
-namespace {
-
-bool Touches(Range left, Range right) {
-    return left.begin <= right.end && right.begin <= left.end;
-}
-
-}  // namespace
-
 Scene::Scene(const Target& target, Range range, const Json& told)
     : target_(target), range_(range), told_(told) {
-    const Snapshot& snapshot = GetSnapshot();
-    if (snapshot.CulturesOf(target.File()).empty()) {
+    if (GetSnapshot().CulturesOf(target.File()).empty()) {
         return;
     }
     try {
-        for (Finding& finding : JudgeFile(snapshot, target.File()).findings) {
-            Json diagnostic = DiagnosticOf(target.GetWorkspace(), snapshot, finding);
-            const bool isHere = Touches(finding.location.range, range);
-            problems_.push_back({std::move(finding), std::move(diagnostic), isHere});
-        }
+        findings_ = JudgeFile(GetSnapshot(), target.File()).findings;
     } catch (const std::invalid_argument&) {
         // There is nothing to compare the file with; the diagnostics tell of it.
     }
 }
 
-std::vector<const Scene::Problem*> Scene::Here(lm_check::Rule rule) const {
-    std::vector<const Problem*> here;
-    for (const Problem& problem : problems_) {
-        if (problem.isHere && problem.finding.rule == rule) {
-            here.push_back(&problem);
+bool Scene::IsHere(const Finding& finding) const {
+    return finding.location.range.begin <= range_.end && range_.begin <= finding.location.range.end;
+}
+
+std::vector<const Finding*> Scene::Here(lm_check::Rule rule) const {
+    std::vector<const Finding*> here;
+    for (const Finding& finding : findings_) {
+        if (finding.rule == rule && IsHere(finding)) {
+            here.push_back(&finding);
         }
     }
     return here;
+}
+
+Json Scene::DiagnosticOf(const Finding& finding) const {
+    return lm_lsp::DiagnosticOf(target_.GetWorkspace(), GetSnapshot(), finding);
 }
 
 std::vector<Json> Scene::Told(lm_check::Rule rule) const {

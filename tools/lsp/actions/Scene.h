@@ -12,12 +12,6 @@ namespace lm_lsp {
 /// A range of a file of a tree, and what is wrong with the file as typed.
 class Scene {
 public:
-    struct Problem {
-        lm_check::Finding finding;
-        Json diagnostic;  // as the editor has it
-        bool isHere;      // whether it touches the range
-    };
-
     /// @param target  of a tree; must outlive this.
     /// @param told    diagnostics that the editor knows of the range; may be anything.
     Scene(const Target& target, lm_source::Range range, const Json& told);
@@ -30,10 +24,16 @@ public:
     bool IsAtStart() const { return range_.begin <= Document().Content().begin; }
 
     /// What one judges of the file alone.
-    const std::vector<Problem>& Problems() const noexcept { return problems_; }
+    const std::vector<lm_check::Finding>& Findings() const noexcept { return findings_; }
 
-    /// Those of a rule that touch the range.
-    std::vector<const Problem*> Here(lm_check::Rule rule) const;
+    /// Whether a finding touches the range.
+    bool IsHere(const lm_check::Finding& finding) const;
+
+    /// Those of a rule that do.
+    std::vector<const lm_check::Finding*> Here(lm_check::Rule rule) const;
+
+    /// A finding as the editor has it.
+    Json DiagnosticOf(const lm_check::Finding& finding) const;
 
     /// What is known of the tree as a whole only: diagnostics of a rule that the editor was told of.
     std::vector<Json> Told(lm_check::Rule rule) const;
@@ -42,7 +42,7 @@ private:
     const Target& target_;
     lm_source::Range range_;
     const Json& told_;
-    std::vector<Problem> problems_;
+    std::vector<lm_check::Finding> findings_;
 };
 
 }  // namespace lm_lsp

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "edit/add_missing.h"
@@ -41,26 +42,31 @@ Json AddKeys(const Scene& scene, const std::vector<std::string>& keys) {
 }  // namespace
 
 void AddMissingKeys(const Scene& scene, Offers& offers) {
-    std::vector<const Scene::Problem*> missing;
-    for (const Scene::Problem& problem : scene.Problems()) {
-        if (problem.finding.rule == lm_check::Rule::MissingKey) {
-            missing.push_back(&problem);
+    std::vector<const lm_check::Finding*> missing;
+    for (const lm_check::Finding& finding : scene.Findings()) {
+        if (finding.rule == lm_check::Rule::MissingKey) {
+            missing.push_back(&finding);
         }
     }
-    const std::string& uri = scene.GetTarget().Uri();
+    const auto offer = [&](const std::string& title, const std::vector<std::string>& keys,
+                           std::size_t first, std::size_t last) {
+        Json edits = AddKeys(scene, keys);
+        if (edits.is_null()) {
+            return;
+        }
+        Json diagnostics = Json::array();
+        for (std::size_t i = first; i < last; ++i) {
+            diagnostics.push_back(scene.DiagnosticOf(*missing[i]));
+        }
+        offers.AddIn(scene.GetTarget().Uri(), title, std::move(diagnostics), std::move(edits));
+    };
     const std::size_t single = scene.IsAtStart() ? std::min(missing.size(), kMostKeys) : 0;
     for (std::size_t i = 0; i < single; ++i) {
-        const std::string& key = missing[i]->finding.key;
-        const Json edits = AddKeys(scene, {key});
-        if (!edits.is_null()) {
-            offers.AddIn(uri, "Add the missing key " + key, missing[i]->diagnostic, edits);
-        }
+        offer("Add the missing key " + missing[i]->key, {missing[i]->key}, i, i + 1);
     }
-    const Json edits = missing.size() > 1 ? AddKeys(scene, {}) : Json();
-    const std::size_t told = edits.is_null() ? 0 : std::min(missing.size(), kMostOfFile);
-    for (std::size_t i = 0; i < told; ++i) {
-        offers.AddIn(uri, "Add all " + std::to_string(missing.size()) + " missing keys",
-                     missing[i]->diagnostic, edits);
+    if (missing.size() > 1) {
+        offer("Add all " + std::to_string(missing.size()) + " missing keys", {}, 0,
+              std::min(missing.size(), kMostOfFile));
     }
 }
 

@@ -10,7 +10,7 @@ using lm_source::Mistake;
 
 namespace {
 
-void EscapeBefore(const Scene& scene, const Scene::Problem& problem, std::uint32_t after,
+void EscapeBefore(const Scene& scene, const lm_check::Finding& finding, std::uint32_t after,
                   Offers& offers) {
     const Document& document = scene.Document();
     if (after == 0 || document.Bytes()[after - 1] != '\'') {
@@ -19,19 +19,21 @@ void EscapeBefore(const Scene& scene, const Scene::Problem& problem, std::uint32
     const std::vector<Edit> edits = {{{after - 1, after - 1}, "\\"}};
     const Document mended(Apply(document.Bytes(), edits));
     if (mended.Mistakes().size() < document.Mistakes().size()) {
-        offers.Add("Escape the quote", problem.diagnostic, edits);
+        offers.Add("Escape the quote", scene.DiagnosticOf(finding), edits);
     }
 }
 
 }  // namespace
 
 void EscapeQuote(const Scene& scene, Offers& offers) {
-    for (const Scene::Problem* const problem : scene.Here(lm_check::Rule::Syntax)) {
-        const lm_source::Range wrong = problem->finding.location.range;
+    for (const lm_check::Finding* const finding : scene.Here(lm_check::Rule::Syntax)) {
+        const lm_source::Range wrong = finding->location.range;
         for (const Mistake& mistake : scene.Document().Mistakes()) {
             if (mistake.range.begin <= wrong.end && wrong.begin <= mistake.range.end) {
-                EscapeBefore(scene, *problem, mistake.range.begin, offers);
-                EscapeBefore(scene, *problem, mistake.entry, offers);
+                EscapeBefore(scene, *finding, mistake.range.begin, offers);
+                if (mistake.entry != mistake.range.begin) {
+                    EscapeBefore(scene, *finding, mistake.entry, offers);
+                }
             }
         }
     }

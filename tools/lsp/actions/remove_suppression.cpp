@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "lsp/actions/actions.h"
+#include "lsp/members.h"
 #include "source/comments.h"
 
 namespace lm_lsp {
@@ -67,10 +69,17 @@ void Remove(const Document& document, Range name, const Json& diagnostic, Offers
 
 void RemoveSuppression(const Scene& scene, Offers& offers) {
     constexpr auto kRule = lm_check::Rule::UnusedSuppression;
-    for (const Scene::Problem* const problem : scene.Here(kRule)) {
-        Remove(scene.Document(), problem->finding.location.range, problem->diagnostic, offers);
+    std::vector<Json> diagnostics = scene.Told(kRule);
+    for (const lm_check::Finding* const finding : scene.Here(kRule)) {
+        const Json diagnostic = scene.DiagnosticOf(*finding);
+        const bool isTold = std::any_of(
+            diagnostics.begin(), diagnostics.end(),
+            [&](const Json& told) { return Find(told, "range") == Find(diagnostic, "range"); });
+        if (!isTold) {
+            diagnostics.push_back(diagnostic);
+        }
     }
-    for (const Json& diagnostic : scene.Told(kRule)) {
+    for (const Json& diagnostic : diagnostics) {
         Remove(scene.Document(), scene.GetTarget().RangeOf(diagnostic, "range"), diagnostic,
                offers);
     }

@@ -1,6 +1,7 @@
 #include <optional>
 #include <string>
 
+#include "lsp/Spot.h"
 #include "lsp/actions/actions.h"
 
 namespace lm_lsp {
@@ -13,20 +14,11 @@ using lm_source::Value;
 
 namespace {
 
-/// The outermost plural form around a place of an entry; null for none.
+/// The outermost plural form around a place of an entry without mistakes; null for none.
 const Operand* FormAround(const Document& document, std::uint32_t at) {
-    for (const Entry& entry : document.Entries()) {
-        if (entry.isFaulty || at < entry.key.begin || at >= entry.end) {
-            continue;
-        }
-        for (const Operand& operand : document.ValueOf(entry)) {
-            if (operand.kind == OperandKind::PluralForm && operand.range.begin < at &&
-                at < operand.range.end) {
-                return &operand;
-            }
-        }
-    }
-    return nullptr;
+    const Spot spot = SpotAt(document, at);
+    const bool isInForm = !spot.forms.empty() && !spot.entry->isFaulty;
+    return isInForm ? spot.forms.front().first : nullptr;
 }
 
 /// The operand that a form begins or ends with; null for an empty form.
@@ -90,8 +82,8 @@ std::optional<std::string> MeaningOf(const Scene& scene, const std::string& name
 
 void TakeOutReference(const Scene& scene, Offers& offers) {
     const Document& document = scene.Document();
-    for (const Scene::Problem* const problem : scene.Here(lm_check::Rule::ReferenceInForm)) {
-        const lm_source::Range reference = problem->finding.location.range;
+    for (const lm_check::Finding* const finding : scene.Here(lm_check::Rule::ReferenceInForm)) {
+        const lm_source::Range reference = finding->location.range;
         const Operand* const pluralForm = FormAround(document, reference.begin);
         if (pluralForm == nullptr) {
             continue;
@@ -99,11 +91,14 @@ void TakeOutReference(const Scene& scene, Offers& offers) {
         const std::string name(document.Bytes(reference));
         const std::string title = "Take " + name + " out of the braces";
         if (const auto text = Outside(document, *pluralForm, name, true)) {
-            offers.Add(title, problem->diagnostic, {{pluralForm->range, name + " + " + *text}});
+            offers.Add(title, scene.DiagnosticOf(*finding),
+                       {{pluralForm->range, name + " + " + *text}});
         } else if (const auto before = Outside(document, *pluralForm, name, false)) {
-            offers.Add(title, problem->diagnostic, {{pluralForm->range, *before + " + " + name}});
+            offers.Add(title, scene.DiagnosticOf(*finding),
+                       {{pluralForm->range, *before + " + " + name}});
         } else if (const auto meaning = MeaningOf(scene, name)) {
-            offers.Add("Write the text of " + name, problem->diagnostic, {{reference, *meaning}});
+            offers.Add("Write the text of " + name, scene.DiagnosticOf(*finding),
+                       {{reference, *meaning}});
         }
     }
 }

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "edit/plural_forms.h"
+#include "lsp/Spot.h"
 #include "lsp/actions/actions.h"
 
 namespace lm_lsp {
@@ -11,13 +12,11 @@ using lm_source::Operand;
 
 namespace {
 
-/// The operand that begins at a place; null for none.
+/// The operand of an entry without mistakes that begins at a place; null for none.
 const Operand* OperandAt(const Document& document, std::uint32_t begin) {
-    for (const Entry& entry : document.Entries()) {
-        if (entry.isFaulty || begin < entry.key.begin || begin >= entry.end) {
-            continue;
-        }
-        for (const Operand& operand : document.OperandsOf(entry)) {
+    const Entry* const entry = SpotAt(document, begin).entry;
+    if (entry != nullptr && !entry->isFaulty) {
+        for (const Operand& operand : document.OperandsOf(*entry)) {
             if (operand.range.begin == begin) {
                 return &operand;
             }
@@ -33,13 +32,13 @@ void WriteForms(const Scene& scene, Offers& offers) {
     if (!count || *count == 0) {
         return;
     }
-    for (const Scene::Problem* const problem : scene.Here(lm_check::Rule::FormCount)) {
+    for (const lm_check::Finding* const finding : scene.Here(lm_check::Rule::FormCount)) {
         const Operand* const pluralForm =
-            OperandAt(scene.Document(), problem->finding.location.range.begin);
+            OperandAt(scene.Document(), finding->location.range.begin);
         if (pluralForm != nullptr) {
             offers.Add(
                 "Write " + std::to_string(*count) + (*count == 1 ? " form" : " forms"),
-                problem->diagnostic,
+                scene.DiagnosticOf(*finding),
                 {{pluralForm->range, lm_edit::WithForms(scene.Document(), *pluralForm, *count)}});
         }
     }
