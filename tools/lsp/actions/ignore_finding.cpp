@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "edit/append.h"
@@ -59,9 +60,11 @@ void IgnoreFinding(const Scene& scene, Offers& offers) {
     for (const auto& [where, diagnostics] : groups) {
         const auto& [place, isAtEntry, rule] = where;
         const std::string name = lm_check::InfoOf(rule).name;
+        std::string comment = "; localize: ignore " + name;
+        comment += lineBreak;
+        comment += isAtEntry ? "" : lineBreak;
         offers.Add("Ignore " + name + (isAtEntry ? " here" : " in this file"), diagnostics,
-                   {{{place, place},
-                     "; localize: ignore " + name + lineBreak + (isAtEntry ? "" : lineBreak)}});
+                   {{{place, place}, std::move(comment)}});
     }
 }
 
