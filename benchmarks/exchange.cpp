@@ -42,19 +42,20 @@ void MeasureExchange(benchmark::State& state, const Catalogues& catalogues) {
 
 void MeasureGettextPo(benchmark::State& state, const Catalogues& catalogues) {
     const std::string file = PoFile(catalogues);
+    std::string command = Tool("lm_bench_gettextpo");
+    command.append(1, ' ').append(file).append(1, ' ').append(file).append(".copy");
     for ([[maybe_unused]] auto _ : state) {
-        state.SetIterationTime(
-            RunProgram(Tool("lm_bench_gettextpo") + ' ' + file + ' ' + file + ".copy").processor);
+        state.SetIterationTime(RunProgram(command).processor);
     }
 }
 
 void MeasureMsgmerge(benchmark::State& state, const Catalogues& catalogues) {
     const std::string file = PoFile(catalogues);
+    std::string merge = "msgmerge --quiet --output-file=/dev/null ";
+    merge.append(file).append(1, ' ').append(file);
+    const std::string compile = "msgfmt --output-file=/dev/null " + file;
     for ([[maybe_unused]] auto _ : state) {
-        state.SetIterationTime(
-            RunProgram("msgmerge --quiet --output-file=" + file + ".merged " + file + ' ' + file)
-                .processor +
-            RunProgram("msgfmt --output-file=" + file + ".mo " + file).processor);
+        state.SetIterationTime(RunProgram(merge).processor + RunProgram(compile).processor);
     }
 }
 

@@ -1,6 +1,7 @@
 // What translators get of a text, and what becomes of what they give back.
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -25,9 +26,9 @@ struct Unit {
 
 /// What the two cultures' rules say of forms.
 struct FormCounts {
-    std::size_t referenceOne = 0;           // the reference's form for 1
-    std::size_t own = 1;                    // at least one
-    std::vector<bool> severalNumbers = {};  // whether each of the own forms serves several
+    std::size_t referenceOne = 0;        // the reference's form for 1
+    std::size_t own = 1;                 // at least one
+    std::bitset<8> severalNumbers = {};  // which of the own forms serve several
 };
 
 /// A text with one plural form where reference or translation has it is one unit, with the text

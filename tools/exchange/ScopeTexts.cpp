@@ -101,7 +101,7 @@ void ScopeTexts::AddTexts(const Document& reference, std::size_t referenceOne,
                           const lm_check::TranslationLock& lock) {
     FormCounts counts{referenceOne, FormCount(), {}};
     for (std::size_t form = 0; rule_ && form < rule_->FormCount(); ++form) {
-        counts.severalNumbers.push_back(rule_->UseOf(form) == lm_plural::Use::Several);
+        counts.severalNumbers.set(form, rule_->UseOf(form) == lm_plural::Use::Several);
     }
     texts_.reserve(reference.Entries().size());
     for (std::size_t number = 0; number < reference.Entries().size(); ++number) {
