@@ -140,8 +140,8 @@ void AddImportCommand(CLI::App& app, Task& chosen, const ExchangeProgram& progra
         app, chosen,
         {"import",
          "Take over what translators changed in " + name + " files; nothing else is touched",
-         "0 done, 1 some texts cannot be said in our files, 2 a " + name +
-             " file is not good and nothing was changed",
+         "0 done, 1 some texts cannot be said in our files, 2 a file is not good and nothing was "
+         "changed",
          call + "scope main de." + extension + "\n         " + call + "dry-run " + extension +
              "/de"},
         ThatRuns([settings, program] { return ImportRun(*settings, program).Run(); }));
