@@ -1,5 +1,6 @@
 #include "lsp/Server.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -113,6 +114,10 @@ void Server::AddFeatures() {
         return EditsBetween(target.Document().Bytes(), lm_edit::Format(target.Document()));
     });
     OnText("textDocument/codeAction", [](const Target& target, const Json& params) {
+        const Json& only = Find(params, "context.only");
+        if (only.is_array() && std::find(only.begin(), only.end(), "quickfix") == only.end()) {
+            return Json::array();
+        }
         return CodeActionsFor(target, target.RangeOf(params, "range"),
                               Find(params, "context.diagnostics"));
     });
