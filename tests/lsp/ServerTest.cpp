@@ -180,6 +180,40 @@ TEST(ServerTest, SessionsGoAsExpected) {
     EXPECT_GT(count, 20);
 }
 
+TEST(ServerTest, AmongManyMistakesFewChangesAreOffered) {
+    const std::vector<std::pair<std::string, std::size_t>> cases = {
+        {"'it's'", 20},
+        {R"('a\\p')", 40},  // each can be mended or ignored
+        {"'a' + $gone", 20},
+    };
+    const auto lines = [](const std::string& text, const char* lineBreak) {
+        std::string all;
+        for (int line = 0; line < 30; ++line) {
+            all.append("K").append(std::to_string(line)).append(" = " + text + lineBreak);
+        }
+        return all;
+    };
+    for (const auto& [text, expected] : cases) {
+        Session session({{"en/Locs/main.lt", lines("'x'", "\n")},
+                         {"en/Locs/common.lt", ""},
+                         {"de/Locs/common.lt", ""},
+                         {"de/Locs/main.lt", ""}});
+        session.Run("initialize {}");
+        session.Run(
+            R"(textDocument/didOpen! {"textDocument":{"uri":"TREE/de/Locs/main.lt","text":")" +
+            lines(text, R"(\n)") + R"("}})");
+        const std::string offers = session.Run(
+            R"(textDocument/codeAction {"textDocument":{"uri":"TREE/de/Locs/main.lt"},)"
+            R"("range":{"start":{"line":1,"character":0},"end":{"line":99,"character":0}}})");
+        std::size_t count = 0;
+        for (std::size_t at = offers.find(R"("title")"); at != std::string::npos;
+             at = offers.find(R"("title")", at + 1)) {
+            ++count;
+        }
+        EXPECT_EQ(count, expected) << text << '\n' << offers.substr(0, 1000);
+    }
+}
+
 std::string Framed(const std::string& content) {
     return "Content-Length: " + std::to_string(content.size()) + "\r\n\r\n" + content;
 }

@@ -29,6 +29,9 @@ bool Scene::IsHere(const Finding& finding) const {
 std::vector<const Finding*> Scene::Here(lm_check::Rule rule) const {
     std::vector<const Finding*> here;
     for (const Finding& finding : findings_) {
+        if (here.size() == kMostToMend) {
+            break;
+        }
         if (finding.rule == rule && IsHere(finding)) {
             here.push_back(&finding);
         }
@@ -43,6 +46,9 @@ Json Scene::DiagnosticOf(const Finding& finding) const {
 std::vector<Json> Scene::Told(lm_check::Rule rule) const {
     std::vector<Json> told;
     for (const Json& diagnostic : told_) {
+        if (told.size() == kMostToMend) {
+            break;
+        }
         if (Find(diagnostic, "code") == lm_check::InfoOf(rule).name) {
             told.push_back(diagnostic);
         }

@@ -1,6 +1,7 @@
 // What a request for code actions is about.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "check/Report.h"
@@ -8,6 +9,10 @@
 #include "lsp/Target.h"
 
 namespace lm_lsp {
+
+/// Mistakes of a rule that changes are offered for one by one: more than anybody chooses from, and each may take
+/// as long as reading the file.
+inline constexpr std::size_t kMostToMend = 20;
 
 /// A range of a file of a tree, and what is wrong with the file as typed.
 class Scene {
@@ -29,13 +34,13 @@ public:
     /// Whether a finding touches the range.
     bool IsHere(const lm_check::Finding& finding) const;
 
-    /// Those of a rule that do.
+    /// The first of a rule that do.
     std::vector<const lm_check::Finding*> Here(lm_check::Rule rule) const;
 
     /// A finding as the editor has it.
     Json DiagnosticOf(const lm_check::Finding& finding) const;
 
-    /// What is known of the tree as a whole only: diagnostics of a rule that the editor was told of.
+    /// What is known of the tree as a whole only: the first diagnostics of a rule that the editor was told of.
     std::vector<Json> Told(lm_check::Rule rule) const;
 
 private:

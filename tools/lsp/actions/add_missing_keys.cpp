@@ -13,8 +13,6 @@ namespace lm_lsp {
 
 namespace {
 
-constexpr std::size_t kMostKeys = 20;  // that are offered one by one
-
 /// The changes of the file.
 /// @param keys  empty for all.
 /// @return null when there are none.
@@ -60,7 +58,7 @@ void AddMissingKeys(const Scene& scene, Offers& offers) {
         }
         offers.AddIn(scene.GetTarget().Uri(), title, std::move(diagnostics), std::move(edits));
     };
-    const std::size_t single = scene.IsAtStart() ? std::min(missing.size(), kMostKeys) : 0;
+    const std::size_t single = scene.IsAtStart() ? std::min(missing.size(), kMostToMend) : 0;
     for (std::size_t i = 0; i < single; ++i) {
         offer("Add the missing key " + missing[i]->key, {missing[i]->key}, i, i + 1);
     }

@@ -1,3 +1,4 @@
+#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -49,12 +50,17 @@ void IgnoreFinding(const Scene& scene, Offers& offers) {
             finding.rule == Rule::UnusedSuppression) {
             continue;
         }
-        if (const auto place = PlaceFor(document, finding)) {
-            const bool isOfFile = finding.location.range == lm_source::Range();
-            std::vector<Json>& diagnostics = groups[{*place, !isOfFile, finding.rule}];
-            if (diagnostics.size() < kMostOfFile) {
-                diagnostics.push_back(scene.DiagnosticOf(finding));
-            }
+        const auto place = PlaceFor(document, finding);
+        if (!place) {
+            continue;
+        }
+        const bool isOfFile = finding.location.range == lm_source::Range();
+        std::vector<Json>& diagnostics = groups[{*place, !isOfFile, finding.rule}];
+        if (diagnostics.size() < kMostOfFile) {
+            diagnostics.push_back(scene.DiagnosticOf(finding));
+        }
+        if (groups.size() > kMostToMend) {  // the first are kept
+            groups.erase(std::prev(groups.end()));
         }
     }
     for (const auto& [where, diagnostics] : groups) {
