@@ -34,6 +34,13 @@ Json Capabilities() {
             {"codeActionProvider", {{"codeActionKinds", {"quickfix"}}}}};
 }
 
+/// Whether they are among the kinds of code actions that are asked for: an empty one is that of all.
+bool WantsQuickFixes(const Json& only) {
+    return !only.is_array() || std::any_of(only.begin(), only.end(), [](const Json& kind) {
+        return kind == "quickfix" || kind == "";
+    });
+}
+
 /// Where relative paths begin.
 std::filesystem::path FolderOf(const Json& params) {
     const Json& uri = Find(params, "rootUri");
@@ -114,8 +121,7 @@ void Server::AddFeatures() {
         return EditsBetween(target.Document().Bytes(), lm_edit::Format(target.Document()));
     });
     OnText("textDocument/codeAction", [](const Target& target, const Json& params) {
-        const Json& only = Find(params, "context.only");
-        if (only.is_array() && std::find(only.begin(), only.end(), "quickfix") == only.end()) {
+        if (!WantsQuickFixes(Find(params, "context.only"))) {
             return Json::array();
         }
         return CodeActionsFor(target, target.RangeOf(params, "range"),

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -33,17 +34,33 @@ constexpr int kReference = 18;
 constexpr std::size_t kMost = 300;  // items; the editor asks again when more is typed
 constexpr std::size_t kLongestDetail = 80;
 
+constexpr std::string_view kBlanks = " \t\r\n";
+
 bool IsWordUnit(char unit) {
     return (unit >= 'a' && unit <= 'z') || (unit >= 'A' && unit <= 'Z') ||
            (unit >= '0' && unit <= '9') || unit == '_' || unit == '.';
 }
 
-enum class Context { Nothing, Key, Value, Param };
+enum class Context { Nothing, Key, Value, Param, Form };
 
 struct Place {
     Context context = Context::Nothing;
-    Range word;  // that is being typed; of a parameter without its "$"
+    Range word;   // that is being typed; of a parameter without its "$"
+    Range whole;  // what an item takes the place of: the word, of a form with its braces
 };
+
+/// The word of a form with the brace that opens it, and the one that editors write behind. Empty where the word
+/// follows no brace, or where the form has been written already.
+std::optional<Range> FormAt(const Document& document, Range word) {
+    const std::string_view before = document.Bytes().substr(0, word.begin);
+    const std::string_view after = document.Bytes().substr(word.end);
+    const bool isClosed = !after.empty() && after.front() == '}';
+    if (before.empty() || before.back() != '{' ||
+        !(isClosed || after.empty() || kBlanks.find(after.front()) != std::string_view::npos)) {
+        return std::nullopt;
+    }
+    return Range{word.begin - 1, word.end + (isClosed ? 1U : 0U)};
+}
 
 /// Where a text is being typed it is rarely right, so that this goes by what stands before the place.
 Place PlaceAt(const Document& document, std::uint32_t offset) {
@@ -70,15 +87,18 @@ Place PlaceAt(const Document& document, std::uint32_t offset) {
     }
     const Range word = {static_cast<std::uint32_t>(begin), offset};
     if (begin != 0 && before[begin - 1] == '$') {
-        return {Context::Param, word};
+        return {Context::Param, word, word};
     }
-    const std::size_t last = before.substr(0, begin).find_last_not_of(" \t\r\n");
+    if (const auto form = FormAt(document, word)) {
+        return {Context::Form, word, *form};
+    }
+    const std::size_t last = before.substr(0, begin).find_last_not_of(kBlanks);
     if (last != std::string_view::npos &&
         std::string_view("=+,:").find(before[last]) != std::string_view::npos) {
-        return {Context::Value, word};
+        return {Context::Value, word, word};
     }
     const bool beginsLine = last == std::string_view::npos || last < line || begin == line;
-    return beginsLine ? Place{Context::Key, word} : Place{};
+    return beginsLine ? Place{Context::Key, word, word} : Place{};
 }
 
 std::string SourceOf(const Document& document, const Entry& entry) {
@@ -117,6 +137,9 @@ public:
             case Context::Param:
                 AddParams("");
                 break;
+            case Context::Form:
+                AddForms();
+                break;
             case Context::Value:
                 AddKeys();
                 AddParams("$");
@@ -140,7 +163,7 @@ private:
         item["sortText"] = rank + label;
         item["filterText"] = label;
         item["kind"] = kind;
-        item["textEdit"] = EditOf(document_, place_.word, std::move(text));
+        item["textEdit"] = EditOf(document_, place_.whole, std::move(text));
         item["label"] = std::move(label);
         items_.push_back(std::move(item));
     }
