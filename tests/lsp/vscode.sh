@@ -8,6 +8,7 @@ trap 'rm -rf "$directory"' EXIT
 cp -r "$2/editors/vscode" "$directory/extension"
 cd "$directory/extension"
 rm -rf node_modules
+touch package-lock.json
 cp -r "$packages/vscode/node_modules" .
 node "$packages/node_modules/@vscode/vsce/vsce" package --allow-missing-repository --skip-license --out ../localize.vsix
 
@@ -15,6 +16,10 @@ mkdir ../unpacked
 cd ../unpacked
 python3 -m zipfile -e ../localize.vsix .
 cd extension
+if find . -name '.*' -type f | grep . || [ -e package-lock.json ]; then
+    echo "the package has what the extension does not need" >&2
+    exit 1
+fi
 # Of the editor there is only the name of each thing.
 mkdir node_modules/vscode
 cat >node_modules/vscode/index.js <<'END'
