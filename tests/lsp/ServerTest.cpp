@@ -26,7 +26,7 @@ namespace {
 using lm_lsp::Inbox;
 using lm_lsp::Json;
 
-/// Ranges as "2:0-2:4" and diagnostics as "code 2:0-2:4", so that a reply can be read.
+/// Ranges as "2:0-2:4" and diagnostics as "code 2:0-2:4" with related places, so that a reply can be read.
 void Shorten(Json& value) {
     if (value.is_structured()) {
         for (Json& part : value) {
@@ -40,7 +40,12 @@ void Shorten(Json& value) {
         value = place("start") + '-' + place("end");
     }
     if (value.is_object() && value.contains("code") && value.contains("range")) {
-        value = value["code"].get<std::string>() + ' ' + value["range"].get<std::string>();
+        std::string brief =
+            value["code"].get<std::string>() + ' ' + value["range"].get<std::string>();
+        for (const Json& related : value.value("relatedInformation", Json::array())) {
+            brief += " see " + related["location"]["range"].get<std::string>();
+        }
+        value = brief;
     }
 }
 

@@ -40,6 +40,12 @@ local function run()
   vim.cmd('edit ' .. tree .. '/de/Locs/main.lt')
   wait('diagnostics, not ' .. codes(), function() return codes() == 'escape missing-key' end)
 
+  for _, diagnostic in ipairs(vim.diagnostic.get(0)) do
+    local isError = diagnostic.severity == vim.diagnostic.severity.ERROR
+    local code = diagnostic.code or diagnostic.user_data.lsp.code
+    check(isError == (code == 'missing-key'), 'severity of ' .. diagnostic.message)
+  end
+
   go('Files.Selected')
   local text = ask('textDocument/hover').contents.value
   for _, part in ipairs({ '1: 1 Datei ausgewählt', '2: 2 files selected', '5: Выбрано 5 файлов', 'de/Locs/main.lt' }) do
