@@ -55,7 +55,7 @@ public:
         const Document texts = ReadDocument(tree_, *reference);
         const auto lacking = Lacking(scope, texts, own);
         if (!lacking.empty() || !isOwn) {
-            Add(scope, own, texts, lacking, !isOwn);
+            Add(isOwn ? tree_.FullPath(*answer) : PathOf(scope), own, texts, lacking, !isOwn);
         }
     }
 
@@ -99,7 +99,7 @@ private:
                });
     }
 
-    void Add(const std::string& scope, const Document& own, const Document& reference,
+    void Add(std::filesystem::path path, const Document& own, const Document& reference,
              const std::vector<const Entry*>& lacking, bool isNew) {
         const std::string_view lineBreak = LineBreakOf(own);
         std::string entries;
@@ -111,9 +111,10 @@ private:
         if (!Document(text).Mistakes().empty()) {
             throw std::logic_error("adding to the file would make it faulty");
         }
-        found_.changes.push_back({PathOf(scope), std::move(text), lacking.size(), isNew});
+        found_.changes.push_back({std::move(path), std::move(text), lacking.size(), isNew});
     }
 
+    /// Where a file goes that the culture does not have yet.
     std::filesystem::path PathOf(const std::string& scope) const {
         std::filesystem::path path =
             tree_.FullPath(lm_tree::Side::Root, culture_.directories.front()) /
