@@ -36,9 +36,9 @@ Json Capabilities() {
 
 /// Whether they are among the kinds of code actions that are asked for: an empty one is that of all.
 bool WantsQuickFixes(const Json& only) {
-    return !only.is_array() || std::any_of(only.begin(), only.end(), [](const Json& kind) {
-        return kind == "quickfix" || kind == "";
-    });
+    const Json ours = {"quickfix", ""};
+    return !only.is_array() ||
+           std::find_first_of(only.begin(), only.end(), ours.begin(), ours.end()) != only.end();
 }
 
 /// Where relative paths begin.
