@@ -211,9 +211,7 @@ void Exchange::RequireNames(const Unit& unit, const std::vector<std::string>& tr
     }
     for (const std::string& name : now) {
         if (allowed.count(name) == 0) {
-            throw Inexpressible("'{" + name +
-                                "}' is not in the reference: take it out, or double " +
-                                "the braces if they are meant to be seen");
+            throw UnknownName("'{" + name + "}' is not in the reference");
         }
     }
 }

@@ -20,6 +20,7 @@ public:
         const char* unfinished;         // what is not to be imported yet: "fuzzy"
         const char* cannotHold;         // what a file cannot have in it: "a zero"
         const char* bringUpToDate;
+        const char* unknownName;  // what to do about one
     };
 
     explicit Format(const Words& words) : words_(words) {}

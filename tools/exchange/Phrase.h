@@ -16,6 +16,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// What to do depends on how the file writes names.
+class UnknownName : public Inexpressible {
+public:
+    using Inexpressible::Inexpressible;
+};
+
 struct Part {
     enum class Kind : std::uint8_t { Text, Parameter, Reference, Plural };
 

@@ -83,9 +83,13 @@ private:
     using Translations = std::vector<std::vector<std::string>>;
 
     void RequireLanguage() const {
+        const std::string wanted = "'" + LanguageTag(*texts_.Culture()) + "'";
+        if (file_.language.empty()) {
+            throw std::runtime_error("it does not say of what language it is; " + wanted +
+                                     " is wanted");
+        }
         if (!IsNameOf(file_.language, *texts_.Culture())) {
-            throw std::runtime_error("its language is '" + file_.language + "', not '" +
-                                     LanguageTag(*texts_.Culture()) + "'");
+            throw std::runtime_error("its language is '" + file_.language + "', not " + wanted);
         }
     }
 
@@ -222,9 +226,15 @@ private:
         }
         try {
             import_.changes.Set(text, text.exchange.ValueWith(translations));
+        } catch (const UnknownName& error) {
+            AddError(text, std::string(error.what()) + ": " + format_.GetWords().unknownName);
         } catch (const Inexpressible& error) {
-            import_.errors.push_back(texts_.Scope() + '|' + text.key + ": " + error.what());
+            AddError(text, error.what());
         }
+    }
+
+    void AddError(const ScopeTexts::Text& text, const std::string& what) {
+        import_.errors.push_back(texts_.Scope() + '|' + text.key + ": " + what);
     }
 
     const TranslatedFile& file_;

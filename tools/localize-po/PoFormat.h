@@ -9,7 +9,8 @@ class PoFormat : public lm_exchange::Format {
 public:
     PoFormat()
         : Format({"PO", "po", "pot", "fuzzy", "a zero, or what is not UTF-8",
-                  "'msgmerge' it with a new export"}) {}
+                  "'msgmerge' it with a new export",
+                  "take it out, or double the braces if they are meant to be seen"}) {}
 
     std::string Write(const lm_exchange::ScopeTexts& texts) const override;
     lm_exchange::TranslatedFile Read(const std::string& path,

@@ -9,7 +9,7 @@ class XliffFormat : public lm_exchange::Format {
 public:
     XliffFormat()
         : Format({"XLIFF", "xlf", "xlf", "unfinished", "what is not UTF-8",
-                  "export again and translate on in the new file"}) {}
+                  "export again and translate on in the new file", "take it out"}) {}
 
     std::string Write(const lm_exchange::ScopeTexts& texts) const override;
     lm_exchange::TranslatedFile Read(const std::string& path,

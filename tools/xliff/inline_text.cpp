@@ -108,6 +108,10 @@ std::string CharacterOf(std::string_view id) {
     return {};
 }
 
+std::string NameOf(std::string_view inBraces) {
+    return std::string("{").append(inBraces).append("}");
+}
+
 void AppendFlat(pugi::xml_node element, std::string& flat) {
     for (const pugi::xml_node child : element.children()) {
         const std::string_view name = child.name();
@@ -120,10 +124,11 @@ void AppendFlat(pugi::xml_node element, std::string& flat) {
         } else if (name == "x") {
             std::string_view id = child.attribute("id").value();
             id = id.substr(0, id.find(':'));
+            const bool isName = !id.empty() && id.find_first_of("{}") == std::string_view::npos;
             const std::string character = CharacterOf(id);
-            flat += character.empty() ? '{' + std::string(id) + '}' : character;
+            flat += character.empty() ? NameOf(isName ? id : "<x>") : character;
         } else if (child.type() == pugi::node_element) {
-            flat += "{<" + std::string(name) + ">}";
+            flat += NameOf("<" + std::string(name) + ">");
         }
     }
 }

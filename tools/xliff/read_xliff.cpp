@@ -43,6 +43,7 @@ public:
             FailAt(bytes, static_cast<std::size_t>(result.offset), result.description());
         }
         RequireUtf8();
+        TakePrefixOut();
         const pugi::xml_node file = FileElement();
         TranslatedFile translated;
         translated.language = file.attribute("target-language").value();
@@ -79,11 +80,31 @@ private:
         }
     }
 
+    /// Some tools write all names with a prefix for the namespace.
+    void TakePrefixOut() {
+        const std::string_view root = document_.document_element().name();
+        const std::size_t colon = root.find(':');
+        if (colon != std::string_view::npos) {
+            TakePrefixOut(document_, std::string(root.substr(0, colon + 1)));
+        }
+    }
+
+    static void TakePrefixOut(pugi::xml_node parent, const std::string& prefix) {
+        for (pugi::xml_node child : parent.children()) {
+            const std::string name = child.name();
+            if (name.compare(0, prefix.size(), prefix) == 0) {
+                child.set_name(name.c_str() + prefix.size());
+            }
+            TakePrefixOut(child, prefix);
+        }
+    }
+
     pugi::xml_node FileElement() const {
         const pugi::xml_node root = document_.child("xliff");
         const std::string version = root.attribute("version").value();
         if (!root || version != kVersion) {
-            Fail(root ? "is XLIFF " + version + ": have the tool save XLIFF 1.2"
+            Fail(root ? "is XLIFF " + (version.empty() ? "without a version" : version) +
+                            ": have the tool save XLIFF 1.2"
                       : "is no XLIFF file");
         }
         const pugi::xml_node file = root.child("file");
@@ -107,7 +128,7 @@ private:
 
     void Read(pugi::xml_node element) {
         std::string id = element.attribute("id").value();
-        const std::size_t bracket = id.find('[');
+        const std::size_t bracket = id.rfind('[');
         std::string form;
         if (bracket != std::string::npos && id.back() == ']') {
             form = id.substr(bracket + 1, id.size() - bracket - 2);

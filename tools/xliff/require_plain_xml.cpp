@@ -15,6 +15,16 @@ namespace lm_xliff {
 namespace {
 
 constexpr std::size_t kDeepest = 64;
+constexpr std::size_t kLongestShown = 32;  // of references, in messages
+
+bool IsBlank(char unit) {
+    return unit == ' ' || unit == '\t' || unit == '\n' || unit == '\r';
+}
+
+bool IsOfReference(char unit) {
+    return (unit >= '0' && unit <= '9') || (unit >= 'a' && unit <= 'z') ||
+           (unit >= 'A' && unit <= 'Z') || unit == '#';
+}
 
 /// Whether "#38" or "#x26" is the number of a character.
 bool IsCharacterNumber(std::string_view reference) {
@@ -36,12 +46,18 @@ class Scan {
 public:
     Scan(std::string_view name, std::string_view bytes) : name_(name), bytes_(bytes) {}
 
-    void Run() {
-        while ((at_ = bytes_.find_first_of("<&", at_)) < bytes_.size()) {
-            if (bytes_[at_] == '&') {
+    void Run(std::size_t begin) {
+        at_ = begin;
+        while (at_ < bytes_.size()) {
+            const char unit = bytes_[at_];
+            if (unit == '<') {
+                TakeMarkup(bytes_.substr(at_));
+            } else if (depth_ == 0 && !IsBlank(unit)) {
+                Fail(at_, "is no XML: text stands outside of the root element");
+            } else if (unit == '&') {
                 TakeReference();
             } else {
-                TakeMarkup(bytes_.substr(at_));
+                ++at_;
             }
         }
     }
@@ -56,14 +72,20 @@ private:
     void TakeReference() {
         static constexpr std::array<std::string_view, 5> known = {"amp", "lt", "gt", "quot",
                                                                   "apos"};
-        const std::size_t end = bytes_.find(';', at_);
+        std::size_t end = at_ + 1;
+        while (end < bytes_.size() && IsOfReference(bytes_[end])) {
+            ++end;
+        }
+        if (end == bytes_.size()) {
+            at_ = end;  // cut off, which the library finds
+            return;
+        }
         const std::string_view reference = bytes_.substr(at_ + 1, end - at_ - 1);
-        if (end == std::string_view::npos ||
-            (std::find(known.begin(), known.end(), reference) == known.end() &&
-             !IsCharacterNumber(reference))) {
-            Fail(at_,
-                 "'" + std::string(bytes_.substr(at_, std::min<std::size_t>(end - at_ + 1, 12))) +
-                     "' stands for nothing: write the character itself, or '&amp;' for a '&'");
+        const bool isKnown = std::find(known.begin(), known.end(), reference) != known.end();
+        if (bytes_[end] != ';' || (!isKnown && !IsCharacterNumber(reference))) {
+            const bool isShort = bytes_[end] == ';' && reference.size() <= kLongestShown;
+            Fail(at_, (isShort ? "'&" + std::string(reference) + ";'" : "a '&'") +
+                          " stands for nothing: write the character itself, or '&amp;' for a '&'");
         }
         at_ = end + 1;
     }
@@ -89,6 +111,10 @@ private:
     /// A ">" may stand in quotes.
     void TakeTag() {
         const std::size_t begin = at_;
+        if (depth_ == 0 && hasRoot_) {
+            Fail(begin, "is no XML: a second root element begins");
+        }
+        hasRoot_ = true;
         char quote = '\0';
         while (++at_ < bytes_.size()) {
             const char unit = bytes_[at_];
@@ -117,26 +143,30 @@ private:
     std::string_view bytes_;
     std::size_t at_ = 0;
     std::size_t depth_ = 0;
+    bool hasRoot_ = false;
 };
 
 }  // namespace
 
 void RequirePlainXml(std::string_view name, std::string_view bytes) {
     const lm_source::Encoding encoding = lm_source::EncodingOf(bytes);
-    if (encoding.isUtf16 || !encoding.illFormed.empty()) {
+    if (encoding.isUtf16) {
         throw std::runtime_error("'" + std::string(name) + "' is not UTF-8: save it as UTF-8");
     }
     Scan scan(name, bytes);
+    if (!encoding.illFormed.empty()) {
+        scan.Fail(encoding.illFormed.front().begin,
+                  "is not UTF-8, or not whole: save the file as UTF-8");
+    }
     const auto isControl = [](char unit) {
-        return static_cast<unsigned char>(unit) < 0x20 && unit != '\t' && unit != '\n' &&
-               unit != '\r';
+        return static_cast<unsigned char>(unit) < 0x20 && !IsBlank(unit);
     };
     const auto control = static_cast<std::size_t>(
         std::find_if(bytes.begin(), bytes.end(), isControl) - bytes.begin());
     if (control != bytes.size()) {
         scan.Fail(control, "has a control character, which XML files cannot hold");
     }
-    scan.Run();
+    scan.Run(encoding.content.begin);
 }
 
 }  // namespace lm_xliff
