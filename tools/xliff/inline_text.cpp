@@ -21,6 +21,10 @@ constexpr std::array<std::string_view, 2> kNoCharacters = {"\xEF\xBF\xBE", "\xEF
 
 /// The one at the beginning; empty when XML can hold it.
 std::string_view UnholdableAt(std::string_view text) {
+    const auto first = static_cast<unsigned char>(text.front());
+    if (first >= ' ' && first != 0xEF) {
+        return {};  // as nearly all can be told
+    }
     if (kControls.find(text.front()) != std::string_view::npos) {
         return text.substr(0, 1);
     }
