@@ -129,9 +129,13 @@ private:
                 break;
             }
         }
-        if (at_ < bytes_.size() && bytes_[at_ - 1] != '/' && ++depth_ > kDeepest) {
+        if (at_ == bytes_.size()) {
+            return;
+        }
+        if (bytes_[at_ - 1] != '/' && ++depth_ > kDeepest) {
             Fail(begin, "more than " + std::to_string(kDeepest) + " elements are in one another");
         }
+        ++at_;
     }
 
     void SkipPast(std::string_view end) {
