@@ -99,7 +99,7 @@ std::vector<Phrase> ReadForms(const Texts& texts, const Names& names) {
 }  // namespace
 
 Exchange::Exchange(Message reference, std::optional<Message> own, FormCounts counts)
-    : reference_(std::move(reference)), own_(std::move(own)), counts_(std::move(counts)) {
+    : reference_(std::move(reference)), own_(std::move(own)), counts_(counts) {
     const std::size_t ownPlurals = own_ ? own_->plurals.size() : 0;
     const bool isWhole = reference_.plurals.size() <= 1 && ownPlurals <= 1;
     if (own_ && !isWhole) {

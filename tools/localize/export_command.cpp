@@ -29,7 +29,9 @@ struct ExportSettings {
 
 void Write(const std::string& path, const std::string& bytes) {
     if (path == kStandardInput) {  // the same name stands for standard output
-        std::cout << bytes;
+        if (!(std::cout << bytes).flush()) {
+            throw std::runtime_error("cannot write to standard output");
+        }
         return;
     }
     const std::filesystem::path file = lm_tree::PathOf(path);

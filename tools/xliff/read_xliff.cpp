@@ -85,7 +85,7 @@ private:
         const std::string_view root = document_.document_element().name();
         const std::size_t colon = root.find(':');
         if (colon != std::string_view::npos) {
-            TakePrefixOut(document_, std::string(root.substr(0, colon + 1)));
+            TakePrefixOut(document_.root(), std::string(root.substr(0, colon + 1)));
         }
     }
 
