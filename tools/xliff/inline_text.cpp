@@ -1,8 +1,6 @@
 #include "xliff/inline_text.h"
 
-#include <algorithm>
 #include <array>
-#include <charconv>
 #include <map>
 
 namespace lm_xliff {
