@@ -8,6 +8,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "exchange/breaks_off.h"
 #include "exchange/languages.h"
 #include "exchange/units.h"
 #include "plural/plural_forms.h"
@@ -34,30 +35,6 @@ std::string Listed(const std::vector<std::string>& names) {
         list += '[' + name + ']';
     }
     return list;
-}
-
-bool EndsWith(const std::string& text, char unit) {
-    return !text.empty() && text.back() == unit;
-}
-
-/// Whether the last text of a file ends where one of its lines does, and not in its own way.
-/// @param whole          what it was.
-/// @param reference      what it is a translation of.
-/// @param isFurtherLine  whether the file's last line goes on with it.
-bool BreaksOff(const std::string& text, const std::string& whole, const std::string& reference,
-               bool isFurtherLine) {
-    if (text.empty()) {
-        constexpr std::size_t kShort = 60;  // too short for several lines, unless it has some
-        return whole.size() > kShort || whole.find('\n') != std::string::npos;
-    }
-    // Editors part texts at blanks, signs, and between characters of Asia.
-    const char end = text.back();
-    const bool isAtBreak = std::string_view(" \n\t-/").find(end) != std::string_view::npos ||
-                           static_cast<unsigned char>(end) > 127;
-    const bool isStart = whole.size() > text.size() && whole.compare(0, text.size(), text) == 0;
-    const bool isOddEnd =
-        (end == ' ' || end == '\n') && !EndsWith(whole, end) && !EndsWith(reference, end);
-    return isFurtherLine && ((isAtBreak && isStart) || isOddEnd);
 }
 
 class Importer {

@@ -4,71 +4,21 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "Complaints.h"
 #include "TemporaryFile.h"
 #include "read_text.h"
-#include "source/Encoding.h"
+#include "require_plain_po.h"
 
 namespace localize_po {
 
 namespace {
 
 constexpr const char* kFormat = "python-brace-format";
-
-/// What the library complains of while a function of it runs. It takes no object along.
-class Complaints {
-public:
-    /// @param name  of the file that the library works on, as users know it.
-    explicit Complaints(std::string name = {}) : name_(std::move(name)) { current = this; }
-    Complaints(const Complaints&) = delete;
-    Complaints& operator=(const Complaints&) = delete;
-    ~Complaints() { current = nullptr; }
-
-    static const po_xerror_handler* Handler() {
-        static const po_xerror_handler handler = {&Take, &TakeTwo};
-        return &handler;
-    }
-
-    const std::vector<std::string>& All() const noexcept { return all_; }
-
-private:
-    /// After a fatal one the library cannot go on.
-    static void Take(int severity, po_message_t /*message*/, const char* file, std::size_t line,
-                     std::size_t /*column*/, int /*isMultiline*/, const char* text) {
-        if (severity == PO_SEVERITY_WARNING) {
-            return;
-        }
-        std::string complaint(text);
-        complaint.resize(complaint.find_last_not_of('\n') + 1);
-        if (file != nullptr && line != static_cast<std::size_t>(-1)) {
-            complaint = current->name_ + ':' + std::to_string(line) + ": " + complaint;
-        }
-        current->all_.push_back(complaint);
-        if (severity == PO_SEVERITY_FATAL_ERROR) {
-            throw std::runtime_error(current->all_.front());
-        }
-    }
-
-    static void TakeTwo(int severity, po_message_t message, const char* file, std::size_t line,
-                        std::size_t column, int isMultiline, const char* text,
-                        po_message_t /*other*/, const char* /*otherFile*/,
-                        std::size_t /*otherLine*/, std::size_t /*otherColumn*/,
-                        int /*otherIsMultiline*/, const char* /*otherText*/) {
-        Take(severity, message, file, line, column, isMultiline, text);
-    }
-
-    static Complaints* current;
-
-    std::string name_;
-    std::vector<std::string> all_;
-};
-
-Complaints* Complaints::current = nullptr;
 
 /// Lines that a text was parted into begin so.
 bool IsPiece(std::string_view line) {
@@ -79,54 +29,6 @@ std::string_view LastLine(std::string_view bytes) {
     const std::size_t last = bytes.find_last_not_of("\r\n");
     bytes = bytes.substr(0, last == std::string_view::npos ? 0 : last + 1);
     return bytes.substr(bytes.find_last_of('\n') + 1);
-}
-
-/// The value of an escape for a byte, "\ooo" or "\xhh"; 1 of any other.
-/// @param escape  begins with a backslash.
-unsigned long ByteOf(const std::string& escape) {
-    const bool isHex = escape.substr(1, 1) == "x";
-    const char* const begin = escape.c_str() + (isHex ? 2 : 1);
-    const std::string digits(begin,
-                             std::strspn(begin, isHex ? "0123456789abcdefABCDEF" : "01234567"));
-    return digits.empty() ? 1 : std::strtoul(digits.substr(0, 3).c_str(), nullptr, isHex ? 16 : 8);
-}
-
-/// The library would take what such escapes stand for as it is.
-void RequireTextsInEscapes(const std::string& path, std::string_view bytes) {
-    std::size_t number = 0;
-    while (!bytes.empty()) {
-        ++number;
-        const std::string_view line = bytes.substr(0, bytes.find('\n'));
-        bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
-        for (std::size_t at = line.substr(0, 1) == "#" ? line.size() : 0;
-             (at = line.find('\\', at)) < line.size(); at += 2) {
-            const std::string escape(line.substr(at, 5));
-            const unsigned long byte = ByteOf(escape);
-            if (byte == 0 || byte > 127) {
-                throw std::runtime_error(path + ':' + std::to_string(number) + ": '" +
-                                         escape.substr(0, 4) + "' stands for what no text holds");
-            }
-        }
-    }
-}
-
-/// What the library does not look at.
-void RequireText(const std::string& path, const std::string& bytes) {
-    const lm_source::Encoding encoding = lm_source::EncodingOf(bytes);
-    if (encoding.isUtf16 || !encoding.illFormed.empty()) {
-        throw std::runtime_error("'" + path +
-                                 "' is not UTF-8: convert it with 'msgconv -t UTF-8', or save it "
-                                 "as UTF-8");
-    }
-    if (encoding.content.begin != 0) {
-        throw std::runtime_error("'" + path +
-                                 "' begins with a byte-order mark, which PO files do " +
-                                 "not have: save it without");
-    }
-    if (bytes.find('\0') != std::string::npos) {
-        throw std::runtime_error("'" + path + "' has a zero character and is no PO file");
-    }
-    RequireTextsInEscapes(path, bytes);
 }
 
 std::string TextOf(const char* text) {
@@ -260,7 +162,7 @@ Catalog::Catalog(const std::string& header)
 }
 
 Catalog Catalog::Read(const std::string& path, const std::string& bytes) {
-    RequireText(path, bytes);
+    RequirePlainPo(path, bytes);
     const TemporaryFile file(bytes);  // the library reads files alone
     const Complaints complaints(path);
     const std::unique_ptr<po_file, Close> read(
